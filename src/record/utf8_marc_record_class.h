@@ -1,0 +1,646 @@
+// Utf8MarcRecordClass: one MARC 21 record.
+//
+// A record comes in as an ISO 2709 image (MarcRecordIn), is taken apart once
+// into a table of fields and subfields, and from then on everything works on
+// that table through a current field and a current subfield.  MarcRecordOut
+// builds a new image whenever it is asked.
+//
+//   Utf8MarcRecordClass record;
+//   record.MarcRecordIn(image);
+//   for (record.FldMoveTop(); record.FldMoveNext(true);) {
+//     std::cout << record.FldTag() << ' ' << record.FldText() << '\n';
+//   }
+//
+// Conventions, for every member unless it says otherwise:
+//   - text is octets, one a char; lengths and positions count octets;
+//   - field text is delimiter (31), one-character code, text, repeated; the
+//     text argument of a data field that does not begin with a delimiter is
+//     taken as a subfield $a;
+//   - a member that works on the current field or subfield gives an empty or
+//     false answer when there is none, and changes nothing;
+//   - row pointers count from 0 in order of arrival, -1 meaning none;
+//   - bad input is refused in silence or answered as the member says.  Only
+//     CharacterSetIn, CharacterSetOut, NormalizationScheme and the field shifts
+//     throw (MarcClassError).
+//
+// One object holds one record and is used by one thread at a time.  Loading the
+// next record into the same object reuses its memory.
+
+#ifndef CANTOREL_RECORD_UTF8_MARC_RECORD_CLASS_H_
+#define CANTOREL_RECORD_UTF8_MARC_RECORD_CLASS_H_
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "charset/utf8_char_class.h"
+#include "record/field_table.h"
+
+namespace cantorel {
+
+class Utf8MarcRecordClass {
+ public:
+  Utf8MarcRecordClass();
+  ~Utf8MarcRecordClass();
+  Utf8MarcRecordClass(const Utf8MarcRecordClass&) = delete;
+  Utf8MarcRecordClass& operator=(const Utf8MarcRecordClass&) = delete;
+
+  // --- Image (ISO 2709) ------------------------------------------------------
+
+  // True when `image` has the frame of a MARC record; otherwise IsMarcErrorText
+  // says what is missing.  Only the frame is judged: digits of the length, base
+  // address, the three terminators.  A text longer than it claims passes.
+  bool IsMarc(std::string_view image);
+  std::string IsMarcErrorText() const { return is_marc_error_text_; }
+
+  // Loads an image; the record held before is gone.  A leader that lost blanks
+  // on the way is repaired.  An image that is no MARC record leaves the record
+  // empty, and reading gives an empty text.
+  void MarcRecordIn(std::string_view image);
+  // The image last loaded, as repaired.
+  std::string MarcRecordIn() const { return std::string(image_); }
+
+  // Builds the image of the record as it stands; empty for a record without
+  // fields.  A field above 9,999 octets or a record above 99,999 loses the high
+  // digits of its numbers, as ISO 2709 has no room for them.
+  std::string MarcRecordOut();
+  // The same into a string that the caller reuses.
+  void MarcRecordOut(std::string& image);
+
+  // The 24 characters before the directory.  Writing takes positions 05 to 09
+  // and 17 to 19 one at a time as ChangeLeaderValue does, then the whole; a
+  // shorter value is ignored.
+  std::string Leader() const { return leader_; }
+  void Leader(std::string_view leader);
+  // The directory as loaded, without its terminator.
+  std::string Directory() const { return std::string(directory_); }
+
+  // Begins a new record with leader, 005 and 008.  Type (leader/06) and level
+  // (leader/07) are one character each.
+  void NewRecord(std::string_view record_type, std::string_view bibliographic_level);
+
+  // True when leader/06 of the loaded image was "z".
+  bool IsAuthority() const { return is_authority_; }
+  // The record changed since it was loaded, or its fields did not stand in the
+  // order wanted when it was.
+  bool MarcRecordModified() const { return modified_; }
+  // Leader/09 as loaded.
+  std::string CharacterEncodingScheme() const { return character_encoding_scheme_; }
+
+  // --- Settings --------------------------------------------------------------
+
+  // Folder of the file "MarcRecordClass.INI", which keeps the five booleans
+  // behind; assigning reads it.
+  std::string IniFilePath() const { return ini_file_path_; }
+  void IniFilePath(std::string_view folder);
+  // Each write goes into the file in IniFilePath.
+  bool RemoveDuplicateOclcNumbers() const { return remove_duplicate_oclc_numbers_; }
+  void RemoveDuplicateOclcNumbers(bool value);
+  bool RemoveDuplicative035Fields() const { return remove_duplicative_035_fields_; }
+  void RemoveDuplicative035Fields(bool value);
+  bool RemoveOclcAlphabeticPrefix() const { return remove_oclc_alphabetic_prefix_; }
+  void RemoveOclcAlphabeticPrefix(bool value);
+  bool OclcNumbersHaveLeadingZeroes() const { return oclc_numbers_have_leading_zeroes_; }
+  void OclcNumbersHaveLeadingZeroes(bool value);
+  bool RdaReCast502Fields() const { return rda_recast_502_fields_; }
+  void RdaReCast502Fields(bool value);
+
+  // Indicators other than a digit or a blank become a blank in FldAdd.
+  bool ForceInvalidIndicatorValues() const { return force_invalid_indicator_values_; }
+  void ForceInvalidIndicatorValues(bool value) { force_invalid_indicator_values_ = value; }
+  // A rebuilt field keeps its numeric subfields that the new text lacks.
+  bool PreserveLeadingNumericSubfields() const { return preserve_leading_numeric_subfields_; }
+  void PreserveLeadingNumericSubfields(bool value) { preserve_leading_numeric_subfields_ = value; }
+  bool UseDoubleWidthDiacritics() const { return use_double_width_diacritics_; }
+  void UseDoubleWidthDiacritics(bool value) { use_double_width_diacritics_ = value; }
+  bool ReferringToVoyagerIsOK() const { return referring_to_voyager_is_ok_; }
+  void ReferringToVoyagerIsOK(bool value) { referring_to_voyager_is_ok_ = value; }
+  // Institution codes, blank-separated, whose authority records count as national.
+  std::string NationalAuthorityInstitutions() const { return national_authority_institutions_; }
+  void NationalAuthorityInstitutions(std::string_view codes) { national_authority_institutions_ = codes; }
+  // The institution's code for its local $5; repeated blanks are taken out.
+  std::string Nuc() const { return nuc_; }
+  void Nuc(std::string_view code);
+
+  // --- MARC control characters, one octet each -------------------------------
+
+  std::string MarcDelimiter() const { return "\x1F"; }
+  std::string MarcEndOfField() const { return "\x1E"; }
+  std::string MarcEndOfRecord() const { return "\x1D"; }
+  std::string MarcFill() const { return "|"; }
+  std::string MarcEscape() const { return "\x1B"; }
+
+  // --- Field cursor ----------------------------------------------------------
+  //
+  // FldMoveTop then FldMoveNext(true) until it answers false walks the fields.
+  // Past an end the cursor is -1 and stays there.
+
+  bool FldMoveFirst(bool skip_deleted);
+  bool FldMoveLast(bool skip_deleted);
+  bool FldMoveNext(bool skip_deleted);
+  bool FldMovePrev(bool skip_deleted);
+  // Stands on the first (last) live field, which the next FldMoveNext
+  // (FldMovePrev) delivers again; true when the record has a live field.
+  bool FldMoveTop();
+  bool FldMoveBottom();
+
+  // Searches by a list of tag patterns (blank-separated, "X" standing for any
+  // digit) and, when `text` is not empty, by the beginning of the field's
+  // comparison form.  An empty argument repeats that of the search before.
+  bool FldFindFirst(std::string_view tag_list, std::string_view text);
+  bool FldFindNext(std::string_view tag_list = {}, std::string_view text = {});
+  bool FldFindLast(std::string_view tag_list, std::string_view text);
+  bool FldFindPrev(std::string_view tag_list = {}, std::string_view text = {});
+
+  // The same searches without moving the cursor or forgetting the search.
+  bool FldTestFirst(std::string_view tag_list);
+  bool FldTestNext(std::string_view tag_list);
+  bool FldTestPrev(std::string_view tag_list);
+  bool FldTestLast(std::string_view tag_list);
+
+  // True when a pattern of `tag_list` agrees with `tag` as far as the pattern
+  // goes.  Case counts.  The third argument is not looked at.
+  static bool TagCompare(std::string_view tag_list, std::string_view tag, std::string_view ignored = {});
+
+  std::int16_t FldPointer() const { return current_field_; }
+  void FldPointer(std::int16_t row);
+  bool FldWasFound() const { return field_found_; }
+  bool FldAtTop() const { return field_at_top_; }
+  bool FldAtBottom() const { return field_at_bottom_; }
+  std::string FldNextTag() const;
+  std::string FldPrevTag() const;
+  // Rows of the table, deleted ones included.
+  std::int16_t FieldCount() const { return table_.Count(); }
+
+  // --- Current field ---------------------------------------------------------
+
+  std::string FldTag() const { return std::string(FldTagView()); }
+  void FldTag(std::string_view tag);
+  // Two characters; empty for a control field.
+  std::string FldInd() const;
+  void FldInd(std::string_view indicators);
+  std::string FldInd1() const;
+  void FldInd1(std::string_view indicator);
+  std::string FldInd2() const;
+  void FldInd2(std::string_view indicator);
+  // Field text without indicators.  Writing an empty text deletes every
+  // subfield and keeps the row.
+  std::string FldText() const;
+  void FldText(std::string_view text);
+  // FldText appended to `out`, for loops.
+  void AppendFldText(std::string& out) const;
+  std::string_view FldTagView() const;
+  std::string_view FldIndView() const;
+  // The tag, or for an 880 with $6 the tag that it stands for.
+  std::string FldTagTrue() const;
+  // The 12 directory characters the field was loaded from; empty if added later.
+  std::string FldDirectory() const;
+  bool FldDeleted() const;
+  bool FldIsControl() const;
+  bool FldChanged() const;
+  void FldChanged(bool value);
+  bool FldBoolean1() const;
+  void FldBoolean1(bool value);
+  bool FldBoolean2() const;
+  void FldBoolean2(bool value);
+  void FldLoadInfo(std::string& tag, std::string& indicators, std::string& text) const;
+  void FldGetInfo(std::string& tag, std::string& indicators, std::string& text) const;
+
+  // --- Field editing ---------------------------------------------------------
+
+  // Adds a field at its ordered place; the cursor stands on the new row.  A tag
+  // that is not three digits is refused; a second 008 replaces the content of
+  // the first; a full table (32,767 rows) takes no more.
+  void FldAdd(std::string_view tag, std::string_view indicators, std::string_view text,
+              bool at_top = false);
+  // FldAdd; the fourth argument is not looked at.
+  void FldAddGeneric(std::string_view tag, std::string_view indicators, std::string_view text,
+                     std::string_view ignored);
+  // Adds next to the current field if that keeps the field order, else FldAdd.
+  void FldInsertAfter(std::string_view tag, std::string_view indicators, std::string_view text);
+  void FldInsertBefore(std::string_view tag, std::string_view indicators, std::string_view text);
+  // Rebuild the current field.  A field whose place changes comes back under
+  // another FldPointer, its old row staying behind as deleted.
+  void FldChange(std::string_view tag, std::string_view indicators, std::string_view text);
+  void FldReset(std::string_view tag, std::string_view indicators, std::string_view text);
+  void FldDelete();
+  // Does nothing: a deleted field stays deleted.
+  void FldUndelete() {}
+  // Exchange with the neighbour when their order keys allow it.  Throws
+  // MarcClassError (9) before anything changes when there is no field beyond
+  // the pair to be linked.
+  void FldShiftUp();
+  void FldShiftDown();
+  void FldChangedClearAll();
+  // Splits the text of a $6 into the linked tag, the occurrence number (at
+  // least two digits) and the rest, which begins with "/".
+  static void IdentifySubfield6Pieces(std::string_view subfield6, std::string& tag,
+                                      std::string& occurrence, std::string& rest);
+  // Adds a general material designation to the current field.
+  void FldInsertSubfieldH(std::string_view text);
+
+  // --- Subfield cursor -------------------------------------------------------
+
+  bool SfdMoveFirst(bool skip_deleted);
+  bool SfdMoveLast(bool skip_deleted);
+  bool SfdMoveNext(bool skip_deleted);
+  bool SfdMovePrev(bool skip_deleted);
+  bool SfdMoveTop();
+  bool SfdMoveBottom();
+  // Searches by a list of codes and, when `text` is not empty, by the beginning
+  // of the subfield's comparison form.
+  bool SfdFindFirst(std::string_view codes, std::string_view text);
+  bool SfdFindNext(std::string_view codes = {}, std::string_view text = {});
+  bool SfdFindLast(std::string_view codes, std::string_view text);
+  bool Sfdfindprev(std::string_view codes = {}, std::string_view text = {});
+  bool SfdTestFirst(std::string_view codes);
+  bool SfdTestNext(std::string_view codes);
+  bool SfdTestPrev(std::string_view codes);
+
+  std::int16_t SfdPointer() const { return current_subfield_; }
+  void SfdPointer(std::int16_t row);
+  bool SfdWasFound() const { return subfield_found_; }
+  bool SfdAtTop() const { return subfield_at_top_; }
+  bool SfdAtBottom() const { return subfield_at_bottom_; }
+
+  // --- Current subfield ------------------------------------------------------
+
+  std::string SfdCode() const { return std::string(SfdCodeView()); }
+  void SfdCode(std::string_view code);
+  std::string SfdText() const { return std::string(SfdTextView()); }
+  void SfdText(std::string_view text);
+  std::string_view SfdCodeView() const;
+  std::string_view SfdTextView() const;
+  // True also when there is no current subfield.
+  bool SfdDeleted() const;
+  bool SfdBoolean1() const;
+  void SfdBoolean1(bool value);
+  bool Sfdboolean2() const;
+  void Sfdboolean2(bool value);
+
+  // --- Subfield editing ------------------------------------------------------
+
+  // Appends a subfield, then lets the subfield order move it.
+  void SfdAdd(std::string_view code, std::string_view text);
+  void SfdInsertBefore(std::string_view code, std::string_view text);
+  void SfdInsertAfter(std::string_view code, std::string_view text);
+  void SfdChange(std::string_view code, std::string_view text);
+  // With `care`, deleting the $h of a 245 or 8XX gives its closing punctuation
+  // to the subfield before it.
+  void SfdDelete(bool care = false);
+  // Marks the subfield deleted, as SfdDelete without care: a deleted subfield
+  // cannot be brought back.
+  void SfdUndelete();
+  void SfdShiftLeft();
+  void SfdShiftRight();
+  // Delimiter, code, text; empty for an empty code or text.  A longer code is
+  // cut to one character, in the argument too.
+  static std::string SfdMake(std::string& code, const std::string& text);
+  // Delimiter and the first character of the code.
+  static std::string SfdDelim(std::string_view code);
+
+  // Text after a code from `start` (from 1) on, trimmed, up to the next
+  // delimiter; the result is the position behind the hit, 0 for none.
+  static std::int32_t ExtractSubfield(std::string_view field_text, std::string_view code,
+                                      std::string& text, std::int32_t start);
+  // The current field's text limited to `wanted` codes (empty: all) less `refused`.
+  std::string FldTextWithOnlyCertainSubfields(std::string_view wanted,
+                                              std::string_view refused) const;
+
+  // --- Fixed fields (positions from 0) ---------------------------------------
+
+  // Empty for a stretch that reaches past the leader, and for any stretch of
+  // more than one character that touches its last position.
+  std::string GetLeaderValue(std::int16_t position, std::int16_t length) const;
+  // A change of position 06 must stay in one kind of record; a change of
+  // position 09 switches CharacterSetOut.
+  void ChangeLeaderValue(std::int16_t position, std::string_view value);
+  std::string Get008Value(std::int16_t position, std::int16_t length) const;
+  void Change008Value(std::int16_t position, std::string_view value);
+  // For a current 006, 007 or 008.
+  std::string GetFixedField(std::int16_t position, std::int16_t length) const;
+  void ChangeFixedField(std::int16_t position, std::int16_t length, std::string_view value);
+  // Format code of a leader, of a lone leader/06, or (empty) of the record.
+  std::string SetFormatCode(std::string_view leader);
+  bool SerialBibliographicRecord(std::string_view leader = {}) const;
+  // The 008 of a new record: `date` (6 digits) and the template of the format.
+  static std::string Default008(std::string_view format_code, std::string_view date);
+  // "A" authority, "H" holdings, "B", "D", "F", "M", "P", "S", "U" bibliographic.
+  std::string MarcRecordFormat() const { return std::string(1, format_code_); }
+  // Length of the 008 in the image loaded, 0 without one.
+  std::int16_t Fld008Length() const { return fld008_length_; }
+
+  // --- Order -----------------------------------------------------------------
+
+  // Folder of the order files; ends in a backslash.  Ignored while a record is
+  // held and for an empty value.
+  std::string FldOrderFolder() const { return field_order_folder_; }
+  void FldOrderFolder(std::string_view folder);
+  // When false, a misplaced field (subfield) is reported and not moved.
+  bool TestFieldOrder() const { return test_field_order_; }
+  void TestFieldOrder(bool value) { test_field_order_ = value; }
+  bool TestSubfieldOrder() const { return test_subfield_order_; }
+  void TestSubfieldOrder(bool value) { test_subfield_order_ = value; }
+  bool MakeNoChange() const { return make_no_change_; }
+  void MakeNoChange(bool value) { make_no_change_ = value; }
+  bool IgnoreSfdOrder() const { return ignore_subfield_order_; }
+  void IgnoreSfdOrder(bool value) { ignore_subfield_order_ = value; }
+  bool FldsOutOfOrder() const { return fields_out_of_order_; }
+  bool SubfieldsOutOfOrder() const { return subfields_out_of_order_; }
+  bool FldOrderChanged() const { return field_order_changed_; }
+  bool SfdOrderChanged() const { return subfield_order_changed_; }
+  // Tags, blank-separated, in which a subfield stood or stands out of order.
+  std::string FldsWithSfdsOutOfOrder() const { return fields_with_subfields_out_of_order_; }
+
+  // --- Safe strings ----------------------------------------------------------
+  //
+  // None of these can fail.  Those marked (c) count characters when the record
+  // holds UTF-8 and octets otherwise; the others always count octets.
+  // Positions count from 1.
+
+  std::int32_t SafeLen(std::string_view text) const;             // (c)
+  std::int32_t LengthInCharacters(std::string_view text) const;  // (c)
+  // (c) `length` -1 is to the end.  With `start_counts_characters` false the
+  // start is an octet position even in UTF-8.
+  std::string SafeMid(std::string_view text, std::int32_t start, std::int32_t length = -1,
+                      bool start_counts_characters = true) const;
+  std::string SafeRight(std::string_view text, std::int32_t length) const;  // (c)
+  static std::string SafeStuff(std::string_view text, std::int32_t position, std::int32_t length,
+                               std::string_view insertion);
+  // Position of the last occurrence, 0 for none.
+  static std::int32_t Rat(std::string_view text, std::string_view sought);
+  // With mode 1 `sought` is a list of characters.
+  static std::int32_t RatExtended(std::string_view text, std::string_view sought,
+                                  std::int32_t mode = 0);
+  // Replaces from the end to the start, stepping back one position at a time.
+  static std::string ReplaceCharacters(std::string_view text, std::string_view sought,
+                                       std::string_view replacement, bool squeeze = false);
+  static std::string RemoveRepeatedCharacters(std::string_view text, std::string_view sought);
+  static std::string RemoveSpaces(std::string_view text);
+  static std::string AddSpacesAroundDelimiters(std::string_view text);
+  static std::string RemoveSpacesAroundDelimiters(std::string_view text);
+  // A delimiter and the subfield code behind it are left alone.
+  std::string SafeUCase(std::string_view text) const;
+  std::string SafeLCase(std::string_view text) const;
+  std::string UCaseFirstWord(std::string_view text, bool skip_subfield6 = false) const;
+  std::string LCaseFirstWord(std::string_view text) const;
+  // `leave_alone` lists words in comparison form, each between asterisks.
+  std::string SafeTitleCase(std::string_view text, std::string_view leave_alone) const;
+  std::string SafeSentenceCase(std::string_view text) const;
+  // (c) Position of the first difference; 0 if one text begins the other.
+  std::int32_t CLCL(std::string_view a, std::string_view b) const;
+  static std::string LeftPad(std::string_view text, std::int32_t width, std::string_view pad);
+  static std::string LeftPadNumber(std::int32_t number, std::int32_t width, std::string_view pad);
+  // TRUE, YES, Y, T, 1 and -1, in any case.
+  bool IsTrue(std::string_view text) const;
+
+  // --- Comparison forms (see normalize/) -------------------------------------
+
+  // "P" (NACO) or "V" (plain).  Throws MarcClassError (380) for another letter,
+  // which stays stored all the same.
+  std::string NormalizationScheme() const { return std::string(1, normalization_scheme_); }
+  void NormalizationScheme(std::string_view scheme);
+  // Upper case, no diacritics, most punctuation as blanks, runs of blanks
+  // reduced.  `scheme` is accepted and not looked at.
+  std::string NormString(std::string_view text, bool trim, std::string_view scheme) const;
+  // The same appended to `out`, for loops.
+  void AppendNormString(std::string_view text, bool trim, std::string& out) const;
+  // The form for NACO comparison, in which the commas of a $a and the hyphen of
+  // an open date may survive.
+  std::string NormStringNaco(std::string_view text, bool trim, std::string_view scheme,
+                             std::string_view format, std::string_view tag,
+                             std::string_view code) const;
+  std::string NormalizeWholeField(std::string_view scheme, std::string_view format,
+                                  std::string_view tag, std::string_view indicators,
+                                  std::string_view text, std::string& cleaned);
+  static std::string ListSubfieldsForNormalization(std::string_view format, std::string_view tag);
+  std::string GenerateNacoFormFromRaw(std::string_view tag, std::string_view text) const;
+  std::string FldNorm();
+  std::string FldNormNaco();
+  std::string FldNormNacoAlmost();
+  std::string SfdNorm() const { return std::string(SfdNormView()); }
+  std::string SfdNormNaco() const { return std::string(SfdNormNacoView()); }
+  // Valid until the record changes or the next record is loaded.
+  std::string_view SfdNormView() const;
+  std::string_view SfdNormNacoView() const;
+  std::string FldTextNormalizable() const;
+  void FldLoadInfoNormalizable(std::string& tag, std::string& indicators, std::string& text) const;
+  std::string RemoveDiacritics(std::string_view text) const;
+  std::string RemoveNonfilingCharacters(std::string_view format, std::string_view tag,
+                                        std::string& indicators, std::string_view text,
+                                        bool capitalise) const;
+  void RemoveNonfilingZone(std::string& text, bool& found) const;
+
+  // --- Character sets (see charset/) -----------------------------------------
+
+  // "U" UTF-8, "M" MARC-8, "O" and "V" two 8-bit variants, "L" Windows text.
+  // Throw MarcClassError (380) for any other letter.
+  std::string CharacterSetIn() const;
+  void CharacterSetIn(std::string_view letter);
+  std::string CharacterSetOut() const { return std::string(1, character_set_out_); }
+  void CharacterSetOut(std::string_view letter);
+  // The letter that fits the octets of an image (empty: of the record held),
+  // and the illegal octets found.
+  std::string CharacterizeCharacterSet(std::string_view image) const;
+  bool MarcRecordTranslated() const { return record_translated_; }
+  bool DisableUtf8Decomposition() const { return disable_utf8_decomposition_; }
+  void DisableUtf8Decomposition(bool value) { disable_utf8_decomposition_ = value; }
+  bool CharactersDecomposed() const { return characters_decomposed_; }
+  std::string DecomposeUnicodeCharactersInString(std::string_view text, bool& changed) const;
+  // The record's character object, for questions about one character.
+  Utf8CharClass& CharClass() { return char_class_; }
+
+  bool CharIsAlpha(std::string_view character) const;
+  std::string CharCategory(std::string_view character) const;
+  static bool ContainsRightToLeftCharacters(std::string_view text);
+  // Letters of the scripts found; empty for Latin text.
+  static std::string VernacularDataCharacterize(std::string_view text);
+
+  // --- XML text (see display/) -----------------------------------------------
+
+  // Undoes the five XML escapes and the character references of HTML.
+  std::string XmlUnconditionText(std::string_view text, bool flag = true) const;
+
+ private:
+  struct OrderKey {
+    std::string_view key;
+    std::string_view link;
+  };
+  enum class SubfieldMove { kNone, kLeft, kRight };
+
+  bool HasField() const { return current_field_ >= 0; }
+  bool HasSubfield() const { return HasField() && current_subfield_ >= 0; }
+  FieldRecord& CurrentField() { return table_.Field(current_field_); }
+  const FieldRecord& CurrentField() const { return table_.Field(current_field_); }
+  SubfieldRecord& CurrentSubfield() { return table_.Subfield(CurrentField(), current_subfield_); }
+  const SubfieldRecord& CurrentSubfield() const {
+    return table_.Subfield(CurrentField(), current_subfield_);
+  }
+  bool Utf8() const { return character_set_out_ == 'U'; }
+
+  // Image (record_image_io.cpp).
+  void Empty();
+  void LoadFields();
+  void LoadField(std::string_view tag, std::string_view text, std::string_view entry,
+                 std::string_view& text_of_001);
+  void CheckLoadOrder();
+  void BeforeRecordOut();
+  void RecastThesisNote();
+  bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
+                       std::string& miscellaneous, std::string& institution, std::string& year) const;
+  void ReadBooleanSettings();
+  void WriteBooleanSetting(std::string_view key, bool value);
+
+  // Field editing (field_editing.cpp).  `text` must stay valid while the record
+  // is held: a view of the image or of the arena.
+  bool AddField(std::string_view tag, std::string_view indicators, std::string_view text,
+                bool at_top);
+  void RebuildField(std::string_view tag, std::string_view indicators, std::string_view text);
+  void ParseFieldText(std::int16_t row, std::string_view text);
+  std::string_view KeptNumericSubfields(std::string_view text);
+  bool MayStay(const FieldRecord& field, const OrderKey& key, bool has_subfield6) const;
+  void FillRow(FieldRecord& field, std::string_view tag, std::string_view indicators,
+               const OrderKey& key);
+  std::string_view ControlFieldText(std::string_view tag, std::string_view text, bool size_008);
+  std::string_view DataFieldText(std::string_view text);
+  void InsertBeside(std::string_view tag, std::string_view indicators, std::string_view text,
+                    bool after);
+  void PlaceField(std::int16_t row, bool at_top, bool pairing);
+  void PlaceByKey(std::int16_t row, bool at_top);
+  void PlacePaired880(std::int16_t row);
+  void PlaceByLink(std::int16_t row);
+  void LinkLast(std::int16_t row);
+  void Unlink(std::int16_t row);
+  void LinkBefore(std::int16_t row, std::int16_t next);
+  void LinkAfter(std::int16_t row, std::int16_t prev);
+  void MoveBefore(std::int16_t row, std::int16_t next);
+  void ExchangeWithPrevious(std::int16_t row);
+
+  // Subfield editing (subfield_editing.cpp).
+  void AddFirstSubfield(FieldRecord& field, char code, std::string_view text);
+  void InsertSubfield(char code, std::string_view text, bool after);
+  std::int16_t NewSubfieldRow(FieldRecord& field, char code, std::string_view text,
+                              NormOrigin origin);
+  void WalkIntoPlace();
+  void ShiftSubfield(SubfieldMove direction);
+  void ExchangeSubfields(std::int16_t left, std::int16_t right);
+  void NoteSubfieldOrder(bool moved, char code);
+  bool ResolveDuplicateOclcNumber(std::string& text);
+  std::string CleanedOclcNumber(std::string_view text) const;
+  void SetLeading6(std::string_view text);
+  void RefileLocalField(std::string_view text);
+  std::string GmdEnding(std::string_view h) const;
+  void GiveEndingTo245(std::string_view ending);
+
+  // Comparison forms of a subfield, made when first asked for
+  // (normalize/subfield_norms.cpp).  SettleNorms makes all that are pending,
+  // before a setting that they depend on changes.
+  void MakeNorms(const FieldRecord& field, SubfieldRecord& subfield) const;
+  void SettleNorms();
+  void SettleNorms(const FieldRecord& field);
+
+  // Order (field_order.cpp, subfield_order.cpp).
+  OrderKey MakeFieldOrderKey(std::string_view tag, std::string_view indicators,
+                             std::string_view text);
+  bool PairingIsOn() const;
+  void LoadFieldOrder();
+  void SubfieldOrderRowFor(std::string_view tag);
+  void LookUpOrderRule(char code, SubfieldRecord& subfield) const;
+  SubfieldMove CompareSubfieldOrder(std::int16_t row) const;
+
+  // Character sets (charset/).
+  void SetCharacterSetOutLetter(char letter, bool lc_pattern);
+  void TranslateRecord(char from, char to);
+  void DecomposeAllFields();
+  void AdjustDoubleHalfDiacriticsInAllFields();
+
+  // Cursor (field_cursor.cpp, subfield_cursor.cpp).
+  void ClearAtEndFlags();
+  void GoToField(std::int16_t row);
+  bool FieldPasses(std::string_view tag_list);
+  bool FindFieldForward(bool text_given);
+  bool FindFieldBackward(bool text_given);
+  bool RememberFieldSearch(std::string_view tag_list);
+  template <typename Find>
+  bool TestField(Find find);
+  bool SubfieldPasses() const;
+  template <typename Find>
+  bool TestSubfield(Find find);
+
+  // The image.
+  std::string image_;           // as loaded, leader repaired
+  std::string data_copy_;       // the data section when it had to be changed
+  std::string_view data_;       // the data section: of image_ or of data_copy_
+  std::string_view directory_;  // of image_
+  std::string leader_;
+  std::string is_marc_error_text_;
+  std::string character_encoding_scheme_ = " ";
+
+  // The table and its chain.
+  mutable FieldTable table_;  // mutable: comparison forms are made when asked for
+  std::int16_t first_field_ = kNoRow;
+  std::int16_t last_field_ = kNoRow;
+  std::int16_t field_008_ = kNoRow;
+  std::int16_t fld008_length_ = 0;
+
+  // Cursors and search memories.
+  std::int16_t current_field_ = kNoRow;
+  std::int16_t current_subfield_ = kNoRow;
+  bool field_found_ = false;
+  bool subfield_found_ = false;
+  bool field_at_top_ = false;
+  bool field_at_bottom_ = false;
+  bool subfield_at_top_ = false;
+  bool subfield_at_bottom_ = false;
+  std::string last_tag_list_;
+  std::string last_field_text_;
+  std::string last_code_list_;
+  std::string last_subfield_text_;
+
+  // Record state.
+  char format_code_ = 'B';
+  bool is_authority_ = false;
+  bool new_record_ = false;
+  bool modified_ = false;
+  bool parsing_ = false;  // SfdAdd is called while a field text is parsed
+  bool shifting_ = false;
+  bool fields_out_of_order_ = false;
+  bool subfields_out_of_order_ = false;
+  bool field_order_changed_ = false;
+  bool subfield_order_changed_ = false;
+  std::string fields_with_subfields_out_of_order_;
+
+  // Character sets.
+  char character_set_in_ = '\0';  // '\0' until set: reads as "U"
+  char character_set_out_ = 'U';
+  bool lc_pattern_ = false;
+  bool record_translated_ = false;
+  bool disable_utf8_decomposition_ = false;
+  bool characters_decomposed_ = false;
+  char normalization_scheme_ = 'V';
+  Utf8CharClass char_class_;
+
+  // Settings.
+  std::string ini_file_path_;
+  std::string field_order_folder_;
+  std::string national_authority_institutions_ = "DLC DNLM CMalG-V";
+  std::string nuc_;
+  bool remove_duplicate_oclc_numbers_ = false;
+  bool remove_duplicative_035_fields_ = true;
+  bool remove_oclc_alphabetic_prefix_ = false;
+  bool oclc_numbers_have_leading_zeroes_ = false;
+  bool rda_recast_502_fields_ = false;
+  bool force_invalid_indicator_values_ = true;
+  bool preserve_leading_numeric_subfields_ = false;
+  bool use_double_width_diacritics_ = false;
+  bool referring_to_voyager_is_ok_ = false;
+  bool test_field_order_ = true;
+  bool test_subfield_order_ = true;
+  bool make_no_change_ = false;
+  bool ignore_subfield_order_ = false;
+};
+
+}  // namespace cantorel
+
+#endif  // CANTOREL_RECORD_UTF8_MARC_RECORD_CLASS_H_
