@@ -49,15 +49,15 @@ class TextArena {
 enum class NormOrigin : std::uint8_t { kFirst, kInserted, kGiven };
 
 struct SubfieldRecord {
-  std::string_view text;            // without delimiter and code
-  std::string_view normalized_v;    // comparison form; valid when has_norms
-  std::string_view normalized_p;    // NACO comparison form; valid when has_norms
-  std::string_view order_pattern;   // codes of the subfield-order rule
+  std::string_view text;           // without delimiter and code
+  std::string_view normalized_v;   // comparison form; valid when has_norms
+  std::string_view normalized_p;   // NACO comparison form; valid when has_norms
+  std::string_view order_pattern;  // codes of the subfield-order rule
   std::int16_t order_rule_index = 0;
   std::int16_t order_rule_kind = 0;
   std::int16_t next = kNoRow;
   std::int16_t prev = kNoRow;
-  char code = '\0';                 // '\0' for the one subfield of a control field
+  char code = '\0';  // '\0' for the one subfield of a control field
   NormOrigin norm_origin = NormOrigin::kFirst;
   bool has_norms = false;
   bool deleted = false;
@@ -69,7 +69,7 @@ struct FieldRecord {
   std::string_view directory_entry;  // the 12 characters it was loaded from
   std::string_view order_key;
   std::string_view link_key;
-  std::uint32_t first_row = 0;       // where its subfield rows begin in the pool
+  std::uint32_t first_row = 0;  // where its subfield rows begin in the pool
   std::int16_t next = kNoRow;
   std::int16_t prev = kNoRow;
   std::int16_t first_subfield = kNoRow;
@@ -77,7 +77,7 @@ struct FieldRecord {
   std::int16_t subfield_capacity = 0;  // rows it owns in the pool
   std::int16_t subfield_max = kNoRow;  // highest used row
   char tag[3] = {};
-  char indicators[2] = {};             // meaningless for a control field
+  char indicators[2] = {};  // meaningless for a control field
   bool is_control = false;
   bool changed = false;
   bool deleted = false;
@@ -99,7 +99,9 @@ class FieldTable {
   bool Full() const { return count_ == kMaxRows; }
 
   FieldRecord& Field(std::int16_t row) { return fields_[static_cast<std::size_t>(row)]; }
-  const FieldRecord& Field(std::int16_t row) const { return fields_[static_cast<std::size_t>(row)]; }
+  const FieldRecord& Field(std::int16_t row) const {
+    return fields_[static_cast<std::size_t>(row)];
+  }
 
   SubfieldRecord& Subfield(const FieldRecord& field, std::int16_t row) {
     return pool_[field.first_row + static_cast<std::size_t>(row)];
@@ -121,6 +123,8 @@ class FieldTable {
   TextArena& Arena() { return arena_; }
 
  private:
+  void Grow(FieldRecord& field, std::size_t used);
+
   std::vector<FieldRecord> fields_;
   std::vector<SubfieldRecord> pool_;
   std::size_t pool_used_ = 0;

@@ -118,7 +118,9 @@ class Utf8MarcRecordClass {
   void ReferringToVoyagerIsOK(bool value) { referring_to_voyager_is_ok_ = value; }
   // Institution codes, blank-separated, whose authority records count as national.
   std::string NationalAuthorityInstitutions() const { return national_authority_institutions_; }
-  void NationalAuthorityInstitutions(std::string_view codes) { national_authority_institutions_ = codes; }
+  void NationalAuthorityInstitutions(std::string_view codes) {
+    national_authority_institutions_ = codes;
+  }
   // The institution's code for its local $5; repeated blanks are taken out.
   std::string Nuc() const { return nuc_; }
   void Nuc(std::string_view code);
@@ -161,7 +163,8 @@ class Utf8MarcRecordClass {
 
   // True when a pattern of `tag_list` agrees with `tag` as far as the pattern
   // goes.  Case counts.  The third argument is not looked at.
-  static bool TagCompare(std::string_view tag_list, std::string_view tag, std::string_view ignored = {});
+  static bool TagCompare(std::string_view tag_list, std::string_view tag,
+                         std::string_view ignored = {});
 
   std::int16_t FldPointer() const { return current_field_; }
   void FldPointer(std::int16_t row);
@@ -488,7 +491,8 @@ class Utf8MarcRecordClass {
   void BeforeRecordOut();
   void RecastThesisNote();
   bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
-                       std::string& miscellaneous, std::string& institution, std::string& year) const;
+                       std::string& miscellaneous, std::string& institution,
+                       std::string& year) const;
   void ReadBooleanSettings();
   void WriteBooleanSetting(std::string_view key, bool value);
 

@@ -1,0 +1,89 @@
+#include "record/field_table.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace cantorel {
+
+namespace {
+
+constexpr std::size_t kBlockSize = 16 * 1024;
+constexpr std::int16_t kSubfieldStep = 5;  // rows a field takes at a time
+
+}  // namespace
+
+char* TextArena::Reserve(std::size_t size) {
+  while (block_ < blocks_.size() && blocks_[block_].capacity - used_ < size) {
+    ++block_;
+    used_ = 0;
+  }
+  if (block_ == blocks_.size()) {
+    const std::size_t capacity = std::max(kBlockSize, size);
+    blocks_.push_back({std::make_unique_for_overwrite<char[]>(capacity), capacity});
+    used_ = 0;
+  }
+  char* place = blocks_[block_].octets.get() + used_;
+  used_ += size;
+  return place;
+}
+
+std::string_view TextArena::Keep(std::string_view text) {
+  if (text.empty()) return {};
+  char* place = Reserve(text.size());
+  std::memcpy(place, text.data(), text.size());
+  return {place, text.size()};
+}
+
+void TextArena::Clear() {
+  // A record of unusual size must not hold its memory for the rest of the run.
+  while (!blocks_.empty() && blocks_.back().capacity > kBlockSize) blocks_.pop_back();
+  block_ = 0;
+  used_ = 0;
+}
+
+void FieldTable::Clear() {
+  count_ = 0;
+  pool_used_ = 0;
+  arena_.Clear();
+}
+
+std::int16_t FieldTable::AppendField() {
+  const auto row = static_cast<std::size_t>(count_);
+  if (row == fields_.size()) {
+    fields_.emplace_back();
+  } else {
+    fields_[row] = FieldRecord();
+  }
+  fields_[row].first_row = static_cast<std::uint32_t>(pool_used_);
+  return count_++;
+}
+
+std::int16_t FieldTable::AppendSubfield(FieldRecord& field) {
+  if (field.subfield_max == kMaxRows - 1) return kNoRow;
+  const auto used = static_cast<std::size_t>(field.subfield_max + 1);
+  if (field.subfield_max + 1 >= field.subfield_capacity) Grow(field, used);
+  ++field.subfield_max;
+  pool_[field.first_row + used] = SubfieldRecord();
+  return field.subfield_max;
+}
+
+// Gives the field room for more subfield rows.  The field at the end of the
+// pool grows where it is, as every field does while a record is loaded; any
+// other moves to the end with twice the room, so that adding stays linear.
+void FieldTable::Grow(FieldRecord& field, std::size_t used) {
+  const bool at_end =
+      field.first_row + static_cast<std::size_t>(field.subfield_capacity) == pool_used_;
+  const std::size_t wanted = std::min<std::size_t>(
+      std::max<std::size_t>(used + kSubfieldStep, at_end ? 0 : 2 * used), kMaxRows);
+  const std::size_t start = at_end ? field.first_row : pool_used_;
+  if (pool_.size() < start + wanted) pool_.resize(std::max(start + wanted, 2 * pool_.size()));
+  if (!at_end) {
+    std::copy_n(pool_.begin() + field.first_row, used,
+                pool_.begin() + static_cast<std::ptrdiff_t>(start));
+  }
+  field.first_row = static_cast<std::uint32_t>(start);
+  field.subfield_capacity = static_cast<std::int16_t>(wanted);
+  pool_used_ = start + wanted;
+}
+
+}  // namespace cantorel
