@@ -12,10 +12,12 @@
 #define CANTOREL_MEDIUM_MUSIC_650_TO_382_CLASS_H_
 
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
 #include "medium/conversion_report.h"
+#include "medium/genre_state.h"
 #include "medium/medium_vocabulary.h"
 #include "medium/music_session.h"
 #include "medium/string_map.h"
@@ -104,6 +106,51 @@ class Music650To382Class {
   std::string Parm_MessageRecordIDs() const { return report_.MessageRecordIds(); }
   std::int32_t Parm_MessageTotal() const { return report_.MessageTotal(); }
 
+  std::int32_t Parm_Bibliographic655NonCount() const { return report_.NonProductive655Count(); }
+  std::int32_t Parm_Bibliographic655NonIndex() const { return report_.NonProductive655Index(); }
+  void Parm_Bibliographic655NonIndex(std::int32_t index) { report_.NonProductive655Index(index); }
+  std::string Parm_Bibliographic655NonMessage() const { return report_.NonProductive655Item(); }
+
+  std::int32_t Parm_UnrecognizedInstrumentTotal() { return report_.UnrecognizedInstrumentTotal(); }
+  std::int32_t Parm_UnrecognizedInstrumentIndex() const {
+    return report_.UnrecognizedInstrumentIndex();
+  }
+  void Parm_UnrecognizedInstrumentIndex(std::int32_t index) {
+    report_.UnrecognizedInstrumentIndex(index);
+  }
+  std::string Parm_UnrecognizedInstrumentName() const {
+    return report_.UnrecognizedInstrumentName();
+  }
+  std::int32_t Parm_UnrecognizedInstrumentCount() const {
+    return report_.UnrecognizedInstrumentCount();
+  }
+  std::string Parm_UnrecognizedInstrumentRecordIDs() const {
+    return report_.UnrecognizedInstrumentRecordIds();
+  }
+  std::string Parm_UnrecognizedInstrumentTerms() const {
+    return report_.UnrecognizedInstrumentTerms();
+  }
+
+  std::int32_t Parm_UnrecognizedPlaceTotal() const { return report_.UnrecognizedPlaceTotal(); }
+  std::int32_t Parm_UnrecognizedPlaceIndex() const { return report_.UnrecognizedPlaceIndex(); }
+  void Parm_UnrecognizedPlaceIndex(std::int32_t index) { report_.UnrecognizedPlaceIndex(index); }
+  std::string Parm_UnrecognizedPlaceTerm() const { return report_.UnrecognizedPlaceTerm(); }
+  std::int32_t Parm_UnrecognizedPlaceCounter() const { return report_.UnrecognizedPlaceCount(); }
+  std::string Parm_UnrecognizedPlaceRecordIDs() const {
+    return report_.UnrecognizedPlaceRecordIds();
+  }
+
+  // Tag, indicators and text of each heading that the genre side looked at, and
+  // comparison forms of those that it left out as excerpts; one a line.
+  std::string Parm_ReturnedCandidateFields() const { return genre_.candidate_fields; }
+  std::string Parm_ExcludedForExcerpts() const { return genre_.excluded_for_excerpts; }
+
+  // Writes the items of medium phrases that were not understood, one a line, to
+  // an open text file.  `done` is false when the file did not take them all.
+  void Return_ListUnrecognizedInstruments(std::FILE* file, bool& done) {
+    report_.WriteUnrecognizedItems(file, done);
+  }
+
  private:
   MusicSession& session_;
   ConversionReport report_;
@@ -120,6 +167,7 @@ class Music650To382Class {
   bool heading_was_of_interest_ = false;
   StringMap<std::int16_t> existing_382_fields_;
   StringMap<std::string> new_382_fields_;
+  GenreState genre_;
 };
 
 }  // namespace cantorel
