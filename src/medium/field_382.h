@@ -12,7 +12,7 @@
 namespace cantorel {
 
 // Steps through the subfields of a field text.  What stands before the first
-// delimiter is passed over.
+// delimiter is passed over.  A code in the text behind may be changed under way.
 //
 //   for (SubfieldScanner s(text); s.Next();) use(s.Code(), s.Text());
 class SubfieldScanner {
@@ -44,6 +44,18 @@ class SubfieldScanner {
   std::size_t start_ = 0;
   std::size_t end_;
 };
+
+inline bool HasSubfield(std::string_view field, char code) {
+  const char sought[] = {kDelimiter, code};
+  return field.find(std::string_view(sought, 2)) != std::string_view::npos;
+}
+
+// Gives every subfield of one code another code.
+inline void ChangeCodes(std::string& field, char from, char to) {
+  for (std::size_t i = 1; i < field.size(); ++i) {
+    if (field[i - 1] == kDelimiter && field[i] == from) field[i] = to;
+  }
+}
 
 // Appends delimiter, code and text.
 inline void AppendSubfield(std::string& field, char code, std::string_view text) {

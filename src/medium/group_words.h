@@ -10,21 +10,25 @@
 namespace cantorel {
 
 // The number of players that a word in comparison form names ("TRIO", "TRIOS"
-// give 3); `is_group` false and 0 for any other word.
+// give 3); `is_group` false and 0 for any other word, other spellings such as
+// "SEXTETTE" included.
 std::int32_t NumberFromGroupWord(std::string_view word, bool& is_group);
 
-// Half of the number in a text, an odd number raised first: hands to players.
+// Half of the number that a text begins with, an odd number raised by one
+// first: hands to players.  "4" gives "2", "3" gives "2", no number gives "0".
 std::string HalfRoundedUp(std::string_view text);
 
-// Whether "baritone" in this heading means the brass instrument; if so `term`
-// becomes "baritone horn".
+// Whether "baritone" in this heading (its whole field text) means the brass
+// instrument and not the voice; if so `term` becomes "baritone horn".
 bool BaritoneMeansHorn(std::string_view heading_text, std::string& term);
 
-// False for "continuo", "percussion" and "electronics", which take no count.
+// False for the preferred terms "continuo", "percussion" and "electronics",
+// which take no count.  Case counts.
 bool IsCountedMedium(std::string_view term);
 
-// The subfields of a standard combination named by an item in comparison form
-// ("PIANO TRIO", "PIANO TRIOS"); empty for any other.
+// The 382 subfields ($a and $n) of a standard combination named by an item in
+// comparison form, singular or plural ("PIANO TRIO", "PIANO TRIOS"); empty for
+// any other item.
 std::string_view StandardCombination(std::string_view item);
 
 }  // namespace cantorel

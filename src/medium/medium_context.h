@@ -23,6 +23,11 @@ struct MediumContext {
 
   // The comparison form that everything is looked up by.
   std::string Norm(std::string_view text) const { return record.NormString(text, true, "V"); }
+  // The same into a string that the caller reuses.
+  void Norm(std::string_view text, std::string& norm) const {
+    norm.clear();
+    record.AppendNormString(text, true, norm);
+  }
 };
 
 }  // namespace cantorel
