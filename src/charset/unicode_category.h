@@ -1,8 +1,8 @@
 // The general category of a character as Unicode 3.0 has it.
 //
 // Two departures serve the comparison forms: every character with a
-// compatibility decomposition is "ZZ", and the blocks of some scripts are one
-// category throughout, unassigned positions included.
+// compatibility decomposition is "ZZ", and an unassigned position between two
+// characters of one category in one block has that category too.
 
 #ifndef CANTOREL_CHARSET_UNICODE_CATEGORY_H_
 #define CANTOREL_CHARSET_UNICODE_CATEGORY_H_
@@ -12,6 +12,7 @@
 
 namespace cantorel {
 
+// clang-format off
 enum class Category : std::uint8_t {
   kNone,
   kCc, kCf, kCs, kCo,
@@ -23,6 +24,7 @@ enum class Category : std::uint8_t {
   kSm, kSc, kSk, kSo,
   kZZ,
 };
+// clang-format on
 
 // The two letters of a category; empty for kNone.
 std::string_view CategoryName(Category category);

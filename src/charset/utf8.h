@@ -17,7 +17,9 @@
 namespace cantorel {
 
 // The value of an octet, 0 to 255.
-constexpr unsigned Octet(char c) { return static_cast<unsigned char>(c); }
+constexpr unsigned Octet(char c) {
+  return static_cast<unsigned char>(c);
+}
 
 // The number of octets that a first octet announces, 1 to 4.  A continuation
 // octet counts as a character of one octet.
@@ -36,7 +38,9 @@ constexpr std::string_view Utf8CharAt(std::string_view text, std::size_t positio
 }
 
 // True for an octet that does not begin a character (10xxxxxx).
-constexpr bool IsUtf8Continuation(char c) { return (Octet(c) & 0xC0) == 0x80; }
+constexpr bool IsUtf8Continuation(char c) {
+  return (Octet(c) & 0xC0) == 0x80;
+}
 
 // The octets read as one big-endian number; of more than four, the last four.
 // This is the "octet value" by which categories and normal forms are told.
