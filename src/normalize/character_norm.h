@@ -14,10 +14,22 @@
 
 namespace cantorel {
 
+// What a comparison form keeps as it stands.  The plain form keeps none of
+// these: a delimiter vanishes, the others become blanks.
+struct NormKeeps {
+  bool delimiter = false;
+  bool at_sign = false;
+  bool comma = false;
+  bool hyphen = false;
+};
+
 // Appends the comparison form of one UTF-8 character (its octets as they stand
 // in a text) to `out`.  `keep_at_sign` keeps "@" as the NACO comparison wants
 // it, otherwise "@" is a blank.  `keep_delimiter` keeps the subfield delimiter,
 // which otherwise vanishes with the other control characters.
+//
+// A malformed character goes by the category of its octet value: it vanishes,
+// becomes a blank, or stays as it is.
 void AppendCharacterNorm(std::string_view character, bool keep_at_sign, bool keep_delimiter,
                          std::string& out);
 
@@ -26,9 +38,13 @@ void AppendCharacterNorm(std::string_view character, bool keep_at_sign, bool kee
 // at either end.  Blanks that `out` ended in before the call are left alone.
 // `keep_delimiter` as above.
 void AppendUtf8Norm(std::string_view text, bool trim, bool keep_delimiter, std::string& out);
+// The same with a choice of what is kept.
+void AppendUtf8Norm(std::string_view text, bool trim, const NormKeeps& keeps, std::string& out);
 
 // The same for text in one of the 8-bit sets: `set` is 'V', 'M' or 'O'.  Any
-// other letter gives nothing.
+// other letter gives nothing.  A delimiter becomes a blank and its subfield code
+// vanishes; of MARC-8 escape sequences only the three Greek symbols count, and
+// in set 'V' the text ends at the first escape.
 void AppendOctetNorm(std::string_view text, bool trim, char set, std::string& out);
 
 }  // namespace cantorel
