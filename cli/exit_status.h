@@ -1,0 +1,17 @@
+// Exit statuses of the command, for scripts to test.
+
+#ifndef CANTOREL_CLI_EXIT_STATUS_H_
+#define CANTOREL_CLI_EXIT_STATUS_H_
+
+namespace cantorel::cli {
+
+enum ExitStatus : int {
+  kAllWell = 0,
+  kUnreadableRecords = 1,  // some records could not be read; the others were answered
+  kWrongCall = 2,          // wrong options, or no configuration folder to work with
+  kInputOutputFailed = 3,  // reading a file or writing the answers failed
+};
+
+}  // namespace cantorel::cli
+
+#endif  // CANTOREL_CLI_EXIT_STATUS_H_

@@ -1,0 +1,27 @@
+#include "cli/output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <string_view>
+
+namespace cantorel::cli {
+namespace {
+
+bool SayThatOutputFailed() {
+  std::fprintf(stderr, "cantorel: cannot write to standard output: %s\n", std::strerror(errno));
+  return false;
+}
+
+}  // namespace
+
+bool WriteOutput(std::string_view text) {
+  if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size()) return true;
+  return SayThatOutputFailed();
+}
+
+bool FinishOutput() {
+  return std::fflush(stdout) == 0 || SayThatOutputFailed();
+}
+
+}  // namespace cantorel::cli

@@ -1,0 +1,18 @@
+// Standard output, with a word on whether writing succeeded.
+
+#ifndef CANTOREL_CLI_OUTPUT_H_
+#define CANTOREL_CLI_OUTPUT_H_
+
+#include <string_view>
+
+namespace cantorel::cli {
+
+// Both answer false, and say so on standard error, when standard output takes no
+// more: it is closed, its reader has gone, the disk is full.
+bool WriteOutput(std::string_view text);
+// To be called once at the end: what was written may still be on its way.
+bool FinishOutput();
+
+}  // namespace cantorel::cli
+
+#endif  // CANTOREL_CLI_OUTPUT_H_

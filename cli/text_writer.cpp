@@ -1,0 +1,67 @@
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "cli/answer_writers.h"
+#include "service/cantorel_class.h"
+
+namespace cantorel::cli {
+namespace {
+
+// Why a record has neither fields nor messages; empty when it may have some.
+std::string_view Refusal(std::int32_t result) {
+  switch (result) {
+    case kNoIncomingData:
+      return "empty";
+    case kFirstLineTooShort:
+      return "the first line has no record type and level";
+    case kNotMusic:
+      return "not a record of music";
+    default:
+      return "";
+  }
+}
+
+void AppendField(const FieldAnswer& field, std::string& out) {
+  out += field.IsReplacement() ? "  replace  " : "  add      ";
+  out += field.tag;
+  out += ' ';
+  for (const char indicator : field.indicators) out += indicator == ' ' ? '_' : indicator;
+  for (const Subfield& subfield : SplitSubfields(field.text)) {
+    out.append(" $").append(subfield.code);
+    if (!subfield.text.empty()) out.append(" ").append(subfield.text);
+  }
+  if (field.IsReplacement()) out += "  (field " + std::to_string(field.id) + ")";
+  out += '\n';
+}
+
+void AppendMessage(const MessageAnswer& message, std::string& out) {
+  out.append("  message  ").append(message.type_name);
+  if (!message.text.empty()) out.append(": ").append(message.text);
+  if (!message.terms.empty()) out.append(": ").append(message.terms);
+  if (message.instances > 0) out += " (" + std::to_string(message.instances) + " times)";
+  out += '\n';
+}
+
+}  // namespace
+
+void AppendText(const RecordAnswer& answer, std::string& out) {
+  if (answer.control_number.empty()) {
+    out += "record " + std::to_string(answer.record);
+  } else {
+    out += answer.control_number;
+  }
+  if (!answer.title.empty()) out.append("  ").append(answer.title);
+  out += '\n';
+
+  for (const FieldAnswer& field : answer.fields) AppendField(field, out);
+  for (const MessageAnswer& message : answer.messages) AppendMessage(message, out);
+  if (const std::string_view refusal = Refusal(answer.result); !refusal.empty()) {
+    out.append("  nothing  ").append(refusal).append("\n");
+  } else if (answer.fields.empty()) {
+    out += "  nothing  to add or replace\n";
+  }
+  out += '\n';
+}
+
+}  // namespace cantorel::cli
