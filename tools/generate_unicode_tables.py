@@ -24,6 +24,34 @@ def category_table(ucd):
     return two_stage_table.cpp_table("kCategory", "std::uint8_t", values)
 
 
+# Letters whose case is mapped: those of these scripts, by the first words of
+# their names.  Symbols made of letters (Roman numerals, circled letters, the
+# micro sign) have no other case.
+CASED_SCRIPTS = (
+    "LATIN ", "FULLWIDTH LATIN ", "GREEK ", "COPTIC ", "CYRILLIC ", "ARMENIAN ", "GEORGIAN ",
+)  # fmt: skip
+
+# Latin-1 and Latin Extended-A are mapped by their last octet alone: the first
+# octet stays, even where the real partner has another.  So U+00FF becomes
+# U+00F8 and U+013F becomes U+0100.  Deliberate.  Partners in ASCII are real.
+OCTET_MAPPED = range(0x80, 0x180)
+
+
+def case_table(ucd, name, mapping):
+    values = [other_case(ucd, mapping, cp) for cp in range(unicode30.LAST_CODE_POINT + 1)]
+    return two_stage_table.cpp_table(name, "std::uint16_t", values)
+
+
+def other_case(ucd, mapping, code_point):
+    """The other case of a code point; 0 for none."""
+    partner = mapping(code_point)
+    if partner is None or not ucd.name(code_point).startswith(CASED_SCRIPTS):
+        return 0
+    if code_point in OCTET_MAPPED and partner >= 0x80:
+        return code_point & ~0x3F | partner & 0x3F
+    return partner
+
+
 def write(folder, name, what, body):
     guard = f"CANTOREL_CHARSET_TABLES_{name.upper()}_H_"
     comment = f"{what}\n\n{SOURCE}\n\n{unicode30.NOTICE}"
@@ -38,6 +66,9 @@ def main():
     ucd = unicode30.UnicodeDatabase(data, blocks)
     write(folder, "category_table", "The category of each code point, as number of enum class "
           "Category.", category_table(ucd))
+    write(folder, "case_table", "The other case of each code point; 0 for none.",
+          case_table(ucd, "kUpperCase", ucd.upper) + "\n"
+          + case_table(ucd, "kLowerCase", ucd.lower))
 
 
 if __name__ == "__main__":
