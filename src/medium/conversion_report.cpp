@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "charset/marc_control.h"
+#include "charset/octet_text.h"
 
 namespace cantorel {
 namespace {
@@ -41,12 +42,6 @@ std::string MarkedPlace(std::string_view place) {
   std::string marked = MarkLetterZ(place);
   if (marked.ends_with("$z")) marked.resize(marked.size() - 2);
   return marked;
-}
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 void SetHeading(std::string_view tag, std::string_view text, std::string& heading) {
@@ -279,7 +274,7 @@ std::int32_t ConversionReport::UnrecognizedInstrumentCount() const {
 
 std::string ConversionReport::UnrecognizedInstrumentRecordIds() const {
   const CountedTerm* term = SelectedInstrument();
-  return term == nullptr ? std::string() : std::string(Trimmed(term->record_ids));
+  return term == nullptr ? std::string() : std::string(Trim(term->record_ids));
 }
 
 std::string ConversionReport::UnrecognizedInstrumentTerms() const {
@@ -306,7 +301,7 @@ std::int32_t ConversionReport::UnrecognizedPlaceCount() const {
 
 std::string ConversionReport::UnrecognizedPlaceRecordIds() const {
   const CountedTerm* term = SelectedPlace();
-  return term == nullptr ? std::string() : std::string(Trimmed(term->record_ids));
+  return term == nullptr ? std::string() : std::string(Trim(term->record_ids));
 }
 
 void ConversionReport::WriteUnrecognizedItems(std::FILE* file, bool& done) {
