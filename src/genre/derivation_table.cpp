@@ -1,0 +1,21 @@
+// The table of derivations, "Music6xxTo655.txt", and its making.
+
+#include "medium/music_650_to_382_class.h"
+
+namespace cantorel {
+
+void Music650To382Class::Private_655_Initialize(Utf8MarcRecordClass& /*record*/,
+                                                Utf8CharClass& /*char_object*/, bool& ok) {
+  InitializeStyleQualifiers();
+  if (genre_.table_build_tried) {
+    ok = genre_.table_built;
+    return;
+  }
+  ok = false;
+  if (spreadsheet_.empty()) return;
+  // There is no reader of workbooks, so that no table can be built; one that
+  // stands in the folder is left alone.
+  genre_.table_build_tried = true;
+}
+
+}  // namespace cantorel
