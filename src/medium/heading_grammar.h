@@ -17,8 +17,8 @@ namespace cantorel {
 
 // Fixed inputs of the grammar that do not change from heading to heading.
 struct HeadingSettings {
-  std::string_view derivation_table;     // full path of "Music6xxTo655.txt"
-  std::string_view subfield_2;           // delimiter, "2" and the source code; or empty
+  std::string_view derivation_table;  // full path of "Music6xxTo655.txt"
+  std::string_view subfield_2;        // delimiter, "2" and the source code; or empty
 };
 
 enum HeadingResult : std::int32_t {
@@ -33,8 +33,7 @@ enum HeadingResult : std::int32_t {
 // possibly with a prefix for its indicators; `trailing` a $3 of the heading,
 // which the caller appends.
 HeadingResult ParseHeading(MediumContext& context, const HeadingSettings& settings,
-                           std::string_view field_text, std::string& buffer,
-                           std::string& trailing);
+                           std::string_view field_text, std::string& buffer, std::string& trailing);
 
 // Corrects a finished field: an ensemble is never a soloist and is counted with
 // $e; without any ensemble there are no soloists.

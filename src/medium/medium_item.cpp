@@ -5,6 +5,7 @@
 #include "charset/octet_text.h"
 #include "medium/group_words.h"
 #include "medium/medium_phrase.h"
+#include "medium/text_find.h"
 
 namespace cantorel {
 
@@ -20,10 +21,6 @@ struct ItemReading {
   std::string& note;
   bool& all_terms_known;
 };
-
-bool BeginsWithCount(std::string_view text) {
-  return !text.empty() && text.front() >= '1' && text.front() <= '9';
-}
 
 // The first word of a comparison form; `rest` is what follows its blank.
 std::string_view FirstWord(std::string_view norm, std::string_view& rest) {

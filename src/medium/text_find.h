@@ -1,4 +1,5 @@
-// Finding words in a heading without regard to the case of ASCII letters.
+// Taking headings apart: words and literals found without regard to the case
+// of ASCII letters.  Views in, views out.
 
 #ifndef CANTOREL_MEDIUM_TEXT_FIND_H_
 #define CANTOREL_MEDIUM_TEXT_FIND_H_
@@ -18,10 +19,21 @@ constexpr bool StartsWithNoCase(std::string_view text, std::string_view prefix) 
   return true;
 }
 
+constexpr bool EndsWithNoCase(std::string_view text, std::string_view suffix) {
+  return text.size() >= suffix.size() &&
+         StartsWithNoCase(text.substr(text.size() - suffix.size()), suffix);
+}
+
+constexpr bool EqualsNoCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && StartsWithNoCase(a, b);
+}
+
 // Position (from 0) of the first occurrence at or behind `from`, or npos.
 constexpr std::size_t FindNoCase(std::string_view text, std::string_view sought,
                                  std::size_t from = 0) {
+  const char first = sought.empty() ? '\0' : AsciiLower(sought.front());
   for (std::size_t i = from; i + sought.size() <= text.size(); ++i) {
+    if (!sought.empty() && AsciiLower(text[i]) != first) continue;
     if (StartsWithNoCase(text.substr(i), sought)) return i;
   }
   return std::string_view::npos;
@@ -29,6 +41,26 @@ constexpr std::size_t FindNoCase(std::string_view text, std::string_view sought,
 
 constexpr bool ContainsNoCase(std::string_view text, std::string_view sought) {
   return FindNoCase(text, sought) != std::string_view::npos;
+}
+
+// Takes the first blank-separated word off a text, which is left trimmed; empty
+// when no word is left.
+constexpr std::string_view TakeWord(std::string_view& text) {
+  text = Trim(text);
+  const std::string_view word = text.substr(0, text.find(' '));
+  text = Trim(text.substr(word.size()));
+  return word;
+}
+
+// The last blank-separated word of a text; empty without one.
+constexpr std::string_view LastWord(std::string_view text) {
+  text = Trim(text);
+  return text.substr(text.rfind(' ') + 1);
+}
+
+// True when a word can be a count: it begins with a digit from 1 to 9.
+constexpr bool BeginsWithCount(std::string_view word) {
+  return !word.empty() && word.front() >= '1' && word.front() <= '9';
 }
 
 }  // namespace cantorel
