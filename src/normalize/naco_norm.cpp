@@ -3,18 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "charset/octet_text.h"
 #include "normalize/squeezing_writer.h"
 
 namespace cantorel {
 namespace {
-
-// Appends with blanks taken off both ends and runs of blanks reduced to one.
-void AppendTidy(std::string_view text, std::string& out) {
-  SqueezingWriter writer(out, text.size(), true);
-  writer.PutAll(text);
-  writer.Finish();
-}
 
 bool IsClosedDate(std::string_view date) {
   return !date.empty() && date.front() != '-' && date.back() != '-';

@@ -47,6 +47,13 @@ class SqueezingWriter {
   bool after_blank_;
 };
 
+// Appends a text with runs of blanks reduced to one and none at either end.
+inline void AppendTidy(std::string_view text, std::string& out) {
+  SqueezingWriter writer(out, text.size(), true);
+  writer.PutAll(text);
+  writer.Finish();
+}
+
 }  // namespace cantorel
 
 #endif  // CANTOREL_NORMALIZE_SQUEEZING_WRITER_H_

@@ -402,7 +402,9 @@ class Utf8MarcRecordClass {
 
   // "P" (NACO) or "V" (plain).  Throws MarcClassError (380) for another letter,
   // which stays stored all the same.
-  std::string NormalizationScheme() const { return std::string(1, normalization_scheme_); }
+  std::string NormalizationScheme() const {
+    return std::string(normalization_scheme_ == '\0' ? 0 : 1, normalization_scheme_);
+  }
   void NormalizationScheme(std::string_view scheme);
   // Upper case, no diacritics, most punctuation as blanks, runs of blanks
   // reduced.  `scheme` is accepted and not looked at.
