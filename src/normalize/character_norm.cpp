@@ -5,13 +5,26 @@
 #include <cstdint>
 
 #include "charset/marc_control.h"
+#include "charset/two_stage_table.h"
 #include "charset/unicode_category.h"
 #include "charset/utf8.h"
+#include "charset/utf8_code_point.h"
 #include "normalize/squeezing_writer.h"
-#include "normalize/tables/norm_pages.h"
+#include "normalize/tables/norm_table.h"
 
 namespace cantorel {
 namespace {
+
+// What a number in the table of forms means.  From kFirstCodePoint on it is the
+// code point of the form, below it one of these or an index into kTexts.
+constexpr std::uint16_t kNothing = 0;
+constexpr std::uint16_t kItself = 1;
+constexpr std::uint16_t kFirstCodePoint = 32;
+constexpr std::string_view kTexts[] = {"", "", "AE", "NG", "OE", "OI", "SS", "TH", "YR"};
+
+constexpr std::uint16_t NormOf(std::uint32_t code_point) {
+  return TwoStageLookUp(kNormPages, kNormValues, code_point);
+}
 
 constexpr std::size_t kAsciiCount = 0x80;
 
@@ -21,9 +34,9 @@ using AsciiNorms = std::array<char, kAsciiCount>;
 
 constexpr AsciiNorms AsciiNormsKeeping(const NormKeeps& keeps) {
   AsciiNorms norms{};
-  for (std::size_t code = 0; code < kAsciiCount; ++code) {
-    const std::uint16_t norm = kNormPages[kNormPageOf[code >> 6]][code & 0x3F];
-    if (norm != kNormNothing) norms[code] = static_cast<char>(norm == kNormItself ? code : norm);
+  for (std::uint32_t code = 0; code < kAsciiCount; ++code) {
+    const std::uint16_t norm = NormOf(code);
+    if (norm != kNothing) norms[code] = static_cast<char>(norm == kItself ? code : norm);
   }
   if (keeps.delimiter) norms[Octet(kDelimiter)] = kDelimiter;
   if (keeps.at_sign) norms['@'] = '@';
@@ -45,23 +58,6 @@ constexpr std::array<AsciiNorms, 16> kAsciiNormTables = MakeAsciiNormTables();
 const AsciiNorms& AsciiNormsFor(const NormKeeps& keeps) {
   return kAsciiNormTables[(keeps.delimiter ? 1U : 0U) | (keeps.at_sign ? 2U : 0U) |
                           (keeps.comma ? 4U : 0U) | (keeps.hyphen ? 8U : 0U)];
-}
-
-// The code point of a well-formed character of two or three octets; 0 for
-// everything else: truncated, overlong or longer characters and stray
-// continuation octets.
-std::uint32_t CodePointInPages(std::string_view character) {
-  const auto bits = [&](std::size_t i) { return Octet(character[i]) & 0x3FU; };
-  if (character.size() == 2 && IsUtf8Continuation(character[1])) {
-    const std::uint32_t code = (Octet(character[0]) & 0x1FU) << 6 | bits(1);
-    return code >= 0x80 ? code : 0;
-  }
-  if (character.size() == 3 && IsUtf8Continuation(character[1]) &&
-      IsUtf8Continuation(character[2])) {
-    const std::uint32_t code = (Octet(character[0]) & 0x0FU) << 12 | bits(1) << 6 | bits(2);
-    return code >= 0x800 ? code : 0;
-  }
-  return 0;
 }
 
 // A malformed character has no row in a table of characters; its category alone
@@ -88,28 +84,22 @@ std::string_view MalformedNorm(std::string_view character) {
   }
 }
 
-// The form of a character of more than one octet, as octets: of `character`
-// itself, of a table, or of `buffer`.
+// The form of a character beyond ASCII, as octets: of `character` itself, of a
+// text, or of `buffer`.
 std::string_view WideNorm(std::string_view character, std::array<char, 3>& buffer) {
-  const std::uint32_t code = CodePointInPages(character);
-  if (code == 0) return MalformedNorm(character);
-  const std::uint16_t norm = kNormPages[kNormPageOf[code >> 6]][code & 0x3F];
-  if (norm == kNormNothing) return {};
-  if (norm == kNormItself) return character;
-  if (norm < kFirstNormCode) return kNormTexts[norm];
-  if (norm < 0x80) {
-    buffer[0] = static_cast<char>(norm);
-    return {buffer.data(), 1};
-  }
-  if (norm < 0x800) {
-    buffer[0] = static_cast<char>(0xC0 | norm >> 6);
-    buffer[1] = static_cast<char>(0x80 | (norm & 0x3F));
-    return {buffer.data(), 2};
-  }
-  buffer[0] = static_cast<char>(0xE0 | norm >> 12);
-  buffer[1] = static_cast<char>(0x80 | (norm >> 6 & 0x3F));
-  buffer[2] = static_cast<char>(0x80 | (norm & 0x3F));
-  return {buffer.data(), 3};
+  const std::uint32_t code_point = Utf8CodePoint(character);
+  if (code_point == kNoCodePoint) return MalformedNorm(character);
+  if (code_point > kLastTableCodePoint) return {};
+  const std::uint16_t norm = NormOf(code_point);
+  if (norm == kNothing) return {};
+  if (norm == kItself) return character;
+  if (norm < kFirstCodePoint) return kTexts[norm];
+  std::size_t size = 0;
+  const std::uint32_t octets = OctetValueOfCodePoint(norm);
+  if (octets > 0xFFFF) buffer[size++] = static_cast<char>(octets >> 16);
+  if (octets > 0xFF) buffer[size++] = static_cast<char>(octets >> 8 & 0xFF);
+  buffer[size++] = static_cast<char>(octets & 0xFF);
+  return {buffer.data(), size};
 }
 
 }  // namespace
