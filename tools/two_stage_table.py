@@ -40,6 +40,21 @@ def cpp_table(name, value_type, values):
     )
 
 
+def cpp_character_table(name, values):
+    """The same for values that are one printable ASCII character each."""
+    first_stage, pages = split(values)
+    rows = []
+    for page in pages:
+        text = "".join(page)
+        rows += [f'    "{text[start : start + 64]}"' for start in range(0, PAGE_SIZE, 64)]
+    literal = "\n".join(rows)
+    return (
+        f"inline constexpr std::uint8_t {name}Pages[{len(first_stage)}] = {{\n"
+        f"{cpp_rows(first_stage)}\n}};\n\n"
+        f"inline constexpr char {name}Values[] =\n{literal};\n"
+    )
+
+
 def cpp_header(guard, comment, body):
     """A whole header: comment lines, guard, namespace, `body`."""
     head = "\n".join(f"// {line}".rstrip() for line in comment.rstrip("\n").split("\n"))
