@@ -19,6 +19,7 @@ constexpr std::int32_t kInvalidPropertyValue = 380;
 void Utf8MarcRecordClass::NormalizationScheme(std::string_view scheme) {
   const std::string_view trimmed = Trim(scheme);
   normalization_scheme_ = trimmed.empty() ? '\0' : AsciiUpper(trimmed[0]);
+  char_class_.NormalizationScheme(NormalizationScheme());
   if (normalization_scheme_ != 'P' && normalization_scheme_ != 'V') {
     throw MarcClassError(kInvalidPropertyValue, "Invalid value for NormalizationScheme property");
   }
@@ -33,14 +34,14 @@ std::string Utf8MarcRecordClass::NormString(std::string_view text, bool trim,
 
 void Utf8MarcRecordClass::AppendNormString(std::string_view text, bool trim,
                                            std::string& out) const {
-  AppendTextNorm(text, trim, character_set_out_, normalization_scheme_ == 'P', out);
+  AppendTextNorm(text, trim, character_set_out_, char_class_.NormalizationScheme() == "P", out);
 }
 
 std::string Utf8MarcRecordClass::NormStringNaco(std::string_view text, bool trim,
                                                 std::string_view scheme, std::string_view format,
                                                 std::string_view tag, std::string_view code) const {
   NormKeeps keeps = NacoKeeps(scheme, format, tag, code);
-  keeps.delimiter = normalization_scheme_ == 'P';
+  keeps.delimiter = char_class_.NormalizationScheme() == "P";
   std::string norm;
   AppendNacoNorm(text, trim, character_set_out_, keeps, norm);
   return norm;
