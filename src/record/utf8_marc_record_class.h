@@ -459,7 +459,7 @@ class Utf8MarcRecordClass {
   bool CharIsAlpha(std::string_view character) const;
   std::string CharCategory(std::string_view character) const;
   static bool ContainsRightToLeftCharacters(std::string_view text);
-  // Letters of the scripts found; empty for Latin text.
+  // Letters of the scripts found (charset/script_ranges.h); empty for Latin text.
   static std::string VernacularDataCharacterize(std::string_view text);
 
   // --- XML text (see display/) -----------------------------------------------
