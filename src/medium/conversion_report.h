@@ -119,6 +119,8 @@ class ConversionReport {
   std::int32_t UnrecognizedInstrumentTotal();
   std::int32_t UnrecognizedInstrumentIndex() const { return instrument_index_; }
   void UnrecognizedInstrumentIndex(std::int32_t index);
+  // Asks for the total to be read anew first; each conversion begins with it.
+  void CloseInstrumentList() { instruments_readable_ = false; }
   std::string UnrecognizedInstrumentName() const;
   std::int32_t UnrecognizedInstrumentCount() const;
   std::string UnrecognizedInstrumentRecordIds() const;

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 
-#include "charset/octet_text.h"
 #include "medium/group_words.h"
 #include "medium/medium_phrase.h"
 #include "medium/text_find.h"

@@ -4,6 +4,12 @@
 // also 655, 046, 370, 385 and 386.  The class keeps the vocabulary, the caches
 // and the reports through a run of records; a record is handed to each call.
 //
+//   MusicSession session;
+//   Music650To382Class music(session);
+//   music.Parm_Subfield2Code("lcmpt");
+//   music.Parm_InstrumentNameConfigurationFile("config\\MusicMedium.Lcmpt.txt");
+//   music.Convert650To382_Marc(record, status, true, added_fields, outcome);
+//
 // The marked form of a produced 382 is its text with an optional prefix: one
 // character and ":" give the first indicator (the second is "1"), two
 // characters and ":" give both; without a prefix they are "0" and "1".
@@ -18,20 +24,24 @@
 
 #include "medium/conversion_report.h"
 #include "medium/genre_state.h"
+#include "medium/lesser_results.h"
 #include "medium/medium_vocabulary.h"
 #include "medium/music_session.h"
-#include "medium/string_map.h"
 #include "record/utf8_marc_record_class.h"
 
 namespace cantorel {
 
 class Music650To382Class {
  public:
+  // `session` must outlive the object.
   explicit Music650To382Class(MusicSession& session);
   Music650To382Class(const Music650To382Class&) = delete;
   Music650To382Class& operator=(const Music650To382Class&) = delete;
 
-  // Clears the lists of the record under work; with `rebuild` also every cache.
+  // Clears the lists of the record under work; with `rebuild` also every cache
+  // but that of the ensembles, which belongs to the session.  Settles the folder
+  // of the derivation table: that of the vocabulary file, else that of the
+  // spreadsheet, else the session's.
   void Reset(bool rebuild);
 
   // --- Settings --------------------------------------------------------------
@@ -39,50 +49,90 @@ class Music650To382Class {
   // Source code of the vocabulary, for $2; empty leaves $2 out.
   std::string Parm_Subfield2Code() const { return subfield_2_code_; }
   void Parm_Subfield2Code(std::string_view code);
+  // Full path of the vocabulary file.
   std::string Parm_InstrumentNameConfigurationFile() const { return vocabulary_.InstrumentFile(); }
-  void Parm_InstrumentNameConfigurationFile(std::string_view path) { vocabulary_.InstrumentFile(path); }
+  void Parm_InstrumentNameConfigurationFile(std::string_view path) {
+    vocabulary_.InstrumentFile(path);
+  }
   std::string Parm_EnsembleNameConfigurationFile() const { return vocabulary_.EnsembleFile(); }
   void Parm_EnsembleNameConfigurationFile(std::string_view path) { vocabulary_.EnsembleFile(path); }
+  // Any value asks for the derivation table to be built when it is missing.
   std::string Parm_Bibliographic655Spreadsheet() const { return spreadsheet_; }
   void Parm_Bibliographic655Spreadsheet(std::string_view path) { spreadsheet_ = path; }
-  // Tags whose fields end in a point; an empty value is kept as "*" and reads
-  // back empty.
+  // Tags whose fields end in a point; an empty value is kept as "*", and "*"
+  // reads back empty.
   std::string AddTerminalPunctuationTo() const;
   void AddTerminalPunctuationTo(std::string_view tags);
   // 0, 1 or 2; any other value is 0.
   std::int32_t MusicClassOperatingMode() const { return operating_mode_; }
   void MusicClassOperatingMode(std::int32_t mode);
+  // "yyyymmdd.hhnnss".  Writing 8 characters adds ".000000"; 15 characters
+  // change nothing, so that a full stamp cannot be set, which is deliberate; any
+  // other value stands for the present moment.
   std::string MusicClassDateTimeStamp() const { return date_time_stamp_; }
   void MusicClassDateTimeStamp(std::string_view stamp);
+  // Ends in a backslash unless empty.
   std::string MusicClassReportFilePath() const { return report_file_path_; }
   void MusicClassReportFilePath(std::string_view path);
 
-  // --- Conversions -----------------------------------------------------------
+  // --- Vocabulary ------------------------------------------------------------
 
-  // Subject headings of a record into 382 fields.  `status`: 0 no heading
-  // examined, 1 none productive, 2 some, 3 all, -2 no vocabulary.  New fields
-  // go into the record when `add_to_record` is true, and in any case into
-  // `added_fields` in marked form, one a line.  `outcome` is a sum: 1 fields
-  // were added, 2 all existing 382s were dealt with, 4 some were not.
+  // Looks up an instrument by its comparison form.
+  void Private_ReadInstrumentObjectAndFile(Utf8MarcRecordClass& record, std::string_view term,
+                                           std::string& preferred, bool& found) {
+    found = vocabulary_.FindInstrument(record, term, preferred);
+  }
+  // Whether a term in comparison form is listed among the ensembles.
+  bool IsEnsembleName(Utf8MarcRecordClass& record, std::string_view term) {
+    return vocabulary_.IsEnsembleName(record, term);
+  }
+  // Looks up a term as a title field has it, in the folder of the record.
+  bool VerifyMediumTerm(std::string_view term, std::string& preferred, bool& is_ensemble,
+                        Utf8MarcRecordClass& record) {
+    return vocabulary_.VerifyMediumTerm(term, preferred, is_ensemble, record);
+  }
+
+  // --- 382 -------------------------------------------------------------------
+
+  // Subject headings (600 to 651 with second indicator "0") of a record into 382
+  // fields.  Moves the record's cursors.
+  //   status         0 no heading was examined, 1 none was productive, 2 some
+  //                  were, 3 all were, -2 there is no vocabulary; left alone for
+  //                  a record that is not music (leader/06 other than c, d, j)
+  //   add_to_record  whether new fields go into the record; existing 382 fields
+  //                  are corrected in any case
+  //   added_fields   the new fields in marked form, one a line
+  //   outcome        sum of 1 fields were added, 2 all existing 382 fields were
+  //                  dealt with, 4 some were not
+  // A record without a subject heading gets nothing from its titles either.
   void Convert650To382_Marc(Utf8MarcRecordClass& record, std::int32_t& status, bool add_to_record,
                             std::string& added_fields, std::int32_t& outcome);
 
-  // One heading into the buffer that Return_Finished382Field reads.  `result`:
-  // 1 a field was made, 0 none, -1 no candidate, -2 and -3 no vocabulary.
+  // One heading (field text) into the buffer that Return_Finished382Field reads.
+  //   leader_type  leader/06 of its record
+  //   record_id    001 of its record, for the reports
+  //   trailing     a $3 of the heading, which the caller appends
+  //   result       1 a field was made, 0 none, -1 the heading is no candidate,
+  //                -2 and -3 there is no vocabulary
   void Convert650To382_Text(std::string_view leader_type, std::string_view field_text,
                             Utf8MarcRecordClass& record, std::string_view record_id,
                             std::string& trailing, std::int32_t& result);
 
-  // The medium in the $m of a title heading; protocol as above.
+  // The medium in the $m of a title heading; arguments as above.
   void ConvertTitleMedium(std::string_view leader_type, std::string_view field_text,
                           Utf8MarcRecordClass& record, std::string_view record_id,
                           std::string& trailing, std::int32_t& result);
 
+  // The field finished last, in marked form.
   std::string Return_Finished382Field() const { return buffer_; }
+  // Whether the heading read last is of a kind that carries a medium.
   bool Return_HeadingWasOfInterest() const { return heading_was_of_interest_; }
 
-  // Totals and $e of the current field of the record, when it is a 382.
+  // Makes $s and $e of the record's current field anew, when it is a 382.  A
+  // field in which a performer has no count keeps its total.
   void CorrectRecord382(Utf8MarcRecordClass& record);
+
+  // --- 655 and companions ----------------------------------------------------
 
   // Subject headings and fixed fields into 655, 046, 370, 385 and 386.
   void Convert6xxTo655_Marc(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
@@ -92,10 +142,13 @@ class Music650To382Class {
   void InitializeStyleQualifiers();
   // Builds "Music6xxTo655.txt" from its workbook when one is named.
   void Private_655_Initialize(Utf8MarcRecordClass& record, Utf8CharClass& char_object, bool& ok);
+  std::string Parm_ReturnedCandidateFields() const { return genre_.candidate_fields; }
+  std::string Parm_ExcludedForExcerpts() const { return genre_.excluded_for_excerpts; }
 
-  // --- Messages and reports ----------------------------------------------------
+  // --- Messages and reports (indexes from 1) -----------------------------------
 
   ConversionReport& Report() { return report_; }
+
   std::int32_t Parm_MessageCount(Utf8MarcRecordClass&) { return report_.MessageCount(); }
   std::int32_t Parm_MessageIndex() const { return report_.MessageIndex(); }
   void Parm_MessageIndex(std::int32_t index) { report_.MessageIndex(index); }
@@ -105,11 +158,6 @@ class Music650To382Class {
   std::string Parm_MessageTerms(Utf8MarcRecordClass&) const { return report_.MessageTerms(); }
   std::string Parm_MessageRecordIDs() const { return report_.MessageRecordIds(); }
   std::int32_t Parm_MessageTotal() const { return report_.MessageTotal(); }
-
-  std::int32_t Parm_Bibliographic655NonCount() const { return report_.NonProductive655Count(); }
-  std::int32_t Parm_Bibliographic655NonIndex() const { return report_.NonProductive655Index(); }
-  void Parm_Bibliographic655NonIndex(std::int32_t index) { report_.NonProductive655Index(index); }
-  std::string Parm_Bibliographic655NonMessage() const { return report_.NonProductive655Item(); }
 
   std::int32_t Parm_UnrecognizedInstrumentTotal() { return report_.UnrecognizedInstrumentTotal(); }
   std::int32_t Parm_UnrecognizedInstrumentIndex() const {
@@ -140,34 +188,70 @@ class Music650To382Class {
     return report_.UnrecognizedPlaceRecordIds();
   }
 
-  // Tag, indicators and text of each heading that the genre side looked at, and
-  // comparison forms of those that it left out as excerpts; one a line.
-  std::string Parm_ReturnedCandidateFields() const { return genre_.candidate_fields; }
-  std::string Parm_ExcludedForExcerpts() const { return genre_.excluded_for_excerpts; }
+  std::int32_t Parm_Bibliographic655NonCount() const { return report_.NonProductive655Count(); }
+  std::int32_t Parm_Bibliographic655NonIndex() const { return report_.NonProductive655Index(); }
+  void Parm_Bibliographic655NonIndex(std::int32_t index) { report_.NonProductive655Index(index); }
+  std::string Parm_Bibliographic655NonMessage() const { return report_.NonProductive655Item(); }
 
-  // Writes the items of medium phrases that were not understood, one a line, to
-  // an open text file.  `done` is false when the file did not take them all.
+  // Adds a general message about the record under work.
+  void Private_655_AddMessage(std::string_view text, std::string_view detail1,
+                              std::string_view detail2) {
+    report_.AddMessage(session_.returned_001_text, text, detail1, detail2);
+  }
+  // Writes the items of medium phrases that were not understood to an open text
+  // file.
   void Return_ListUnrecognizedInstruments(std::FILE* file, bool& done) {
     report_.WriteUnrecognizedItems(file, done);
   }
 
  private:
+  // What the walks over a record found.
+  struct HeadingCounts {
+    std::int32_t headings = 0;
+    std::int32_t productive = 0;
+    bool has_382_information = false;
+  };
+
+  void SettleConfigurationFolder();
+
+  void NoteRecordId(Utf8MarcRecordClass& record);
+  void NoteExisting382(Utf8MarcRecordClass& record);
+  std::int32_t ReadHeadings(Utf8MarcRecordClass& record, std::string_view leader_type,
+                            HeadingCounts& counts);
+  bool ReadSubjectHeadings(Utf8MarcRecordClass& record, std::string_view leader_type,
+                           HeadingCounts& counts);
+  bool ReadTitleMedia(Utf8MarcRecordClass& record, std::string_view leader_type,
+                      HeadingCounts& counts);
+  void KeepFinishedField(Utf8MarcRecordClass& record);
+  bool DeliverFields(Utf8MarcRecordClass& record, bool add_to_record, std::string& added_fields);
+  std::int32_t OutcomeOf(bool added) const;
+
   MusicSession& session_;
   ConversionReport report_;
   MediumVocabulary vocabulary_;
+  GenreState genre_;
+
   std::string subfield_2_code_;
   std::string subfield_2_;  // delimiter, "2" and the code, or empty
   std::string spreadsheet_;
-  std::string configuration_folder_;
   std::string terminal_punctuation_ = "*";
   std::int32_t operating_mode_ = 0;
   std::string date_time_stamp_;
   std::string report_file_path_;
+  std::string configuration_folder_;  // ends in a backslash; empty if there is none
+  std::string derivation_table_;      // full path, or empty
+
+  // Of the record under work.
+  std::string record_id_;
+  std::string heading_text_;
+  std::string trailing_;
+  std::string comparison_form_;
+  Existing382Map existing_382_fields_;
+  New382Map new_382_fields_;
+
+  // Of the heading read last.
   std::string buffer_;
   bool heading_was_of_interest_ = false;
-  StringMap<std::int16_t> existing_382_fields_;
-  StringMap<std::string> new_382_fields_;
-  GenreState genre_;
 };
 
 }  // namespace cantorel
