@@ -1,0 +1,149 @@
+// Character references in text: the five escapes of XML, the names of HTML, and
+// numbers.
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "display/tables/html_entities.h"
+#include "record/utf8_marc_record_class.h"
+
+namespace cantorel {
+namespace {
+
+// The longest reference that is looked at, between "&" and ";".
+constexpr std::size_t kLongestReference = 32;
+
+// Names that stand for a text, not for a code point.  "apos" belongs to XML and
+// not to HTML.  "ang" gives the digits of its number, not the angle sign: that
+// is deliberate, since records made so far hold it so.
+struct TextEntity {
+  std::string_view name;
+  std::string_view text;
+};
+constexpr TextEntity kTextEntities[] = {{"ang", "8736"}, {"apos", "'"}};
+
+void AppendUtf8(std::uint32_t code, std::string& out) {
+  const auto continuation = [&out, code](int shift) {
+    out.push_back(static_cast<char>(0x80 | ((code >> shift) & 0x3F)));
+  };
+  if (code < 0x80) {
+    out.push_back(static_cast<char>(code));
+  } else if (code < 0x800) {
+    out.push_back(static_cast<char>(0xC0 | (code >> 6)));
+    continuation(0);
+  } else if (code < 0x10000) {
+    out.push_back(static_cast<char>(0xE0 | (code >> 12)));
+    continuation(6);
+    continuation(0);
+  } else {
+    out.push_back(static_cast<char>(0xF0 | (code >> 18)));
+    continuation(12);
+    continuation(6);
+    continuation(0);
+  }
+}
+
+// The code points that XML allows in a text.  The others stay references: among
+// them are the octets that hold a record together.
+bool MayStandInText(std::uint32_t code) {
+  if (code < 0x20) return code == '\t' || code == '\n' || code == '\r';
+  return code < 0xD800 || (code > 0xDFFF && code < 0xFFFE) || (code > 0xFFFF && code <= 0x10FFFF);
+}
+
+// The code point of "#193" or "#xC1"; 0 for what is none.
+std::uint32_t CodeOfNumber(std::string_view reference) {
+  reference.remove_prefix(1);
+  int base = 10;
+  if (!reference.empty() && (reference.front() == 'x' || reference.front() == 'X')) {
+    reference.remove_prefix(1);
+    base = 16;
+  }
+  std::uint32_t code = 0;
+  const char* const end = reference.data() + reference.size();
+  const auto [stop, error] = std::from_chars(reference.data(), end, code, base);
+  return error == std::errc() && stop == end && MayStandInText(code) ? code : 0;
+}
+
+// The code point of "aacute"; 0 for a name that HTML does not know.
+std::uint32_t CodeOfName(std::string_view name) {
+  const auto* place = std::lower_bound(
+      std::begin(kHtmlEntities), std::end(kHtmlEntities), name,
+      [](const HtmlEntity& entity, std::string_view wanted) { return entity.name < wanted; });
+  return place != std::end(kHtmlEntities) && place->name == name ? place->code_point : 0;
+}
+
+// Appends a code point as the set wants it.  The 8-bit sets take ASCII as it is
+// and the rest as the token for what they lack.
+void AppendCodePoint(std::uint32_t code, bool utf8, std::string& out) {
+  if (utf8 || code < 0x80) return AppendUtf8(code, out);
+  char digits[8];
+  const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), code, 16);
+  std::transform(digits, end, digits, [](char c) { return c >= 'a' ? c - 32 : c; });
+  out.append("&#x").append(digits, end).push_back(';');
+}
+
+// Appends what a reference stands for; false when it stands for nothing.
+bool AppendReference(std::string_view reference, bool utf8, std::string& out) {
+  for (const TextEntity& entity : kTextEntities) {
+    if (entity.name != reference) continue;
+    out.append(entity.text);
+    return true;
+  }
+  const std::uint32_t code =
+      reference.front() == '#' ? CodeOfNumber(reference) : CodeOfName(reference);
+  if (code == 0) return false;
+  AppendCodePoint(code, utf8, out);
+  return true;
+}
+
+// What stands between the "&" at the start of `text` and the next ";"; empty
+// when no reference begins here.
+std::string_view ReferenceAt(std::string_view text) {
+  const std::string_view near = text.substr(1, kLongestReference + 1);
+  const std::size_t end = near.find_first_of(";&");
+  if (end == std::string_view::npos || near[end] == '&') return {};
+  return near.substr(0, end);
+}
+
+void NoBreakSpacesToBlanks(std::string& text) {
+  constexpr std::string_view kNoBreakSpace = "\xC2\xA0";
+  std::size_t from = text.find(kNoBreakSpace);
+  if (from == std::string::npos) return;
+  std::size_t to = from;
+  while (from < text.size()) {
+    const bool hit = text.compare(from, kNoBreakSpace.size(), kNoBreakSpace) == 0;
+    text[to++] = hit ? ' ' : text[from];
+    from += hit ? kNoBreakSpace.size() : 1;
+  }
+  text.resize(to);
+}
+
+}  // namespace
+
+std::string Utf8MarcRecordClass::XmlUnconditionText(std::string_view text, bool /*flag*/) const {
+  const bool utf8 = CharacterSetOut() == "U";
+  std::string out;
+  out.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t start = std::min(text.find('&'), text.size());
+    out.append(text.substr(0, start));
+    text.remove_prefix(start);
+    if (text.empty()) break;
+    const std::string_view reference = ReferenceAt(text);
+    if (!reference.empty() && AppendReference(reference, utf8, out)) {
+      text.remove_prefix(reference.size() + 2);
+    } else {
+      out.push_back('&');
+      text.remove_prefix(1);
+    }
+  }
+  NoBreakSpacesToBlanks(out);
+  return out;
+}
+
+}  // namespace cantorel
