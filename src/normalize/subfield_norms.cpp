@@ -1,12 +1,14 @@
 // The comparison forms of a subfield, made when first asked for.
 //
-// They are the forms that the subfield would have had when it was added: what
-// they depend on is settled (SettleNorms) before it changes.
+// They are the forms that the subfield would have had when it was added: each
+// row remembers the character set then in force, and what else they depend on
+// is settled (SettleNorms) before it changes.
 
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "charset/marc_control.h"
 #include "normalize/naco_norm.h"
@@ -23,7 +25,14 @@ constexpr bool MakesNacoFormDiffer(char c) {
 
 }  // namespace
 
-void Utf8MarcRecordClass::MakeNorms(const FieldRecord& field, SubfieldRecord& subfield) const {
+void Utf8MarcRecordClass::MakeNorms(const FieldRecord& field, SubfieldRecord& subfield) {
+  const char set_in_force = std::exchange(character_set_out_, subfield.norm_set);
+  WriteNorms(field, subfield);
+  character_set_out_ = set_in_force;
+  subfield.has_norms = true;
+}
+
+void Utf8MarcRecordClass::WriteNorms(const FieldRecord& field, SubfieldRecord& subfield) {
   const bool first_a = subfield.code == 'a' && subfield.norm_origin == NormOrigin::kFirst;
   std::string_view text = subfield.text;
   std::string filed;
@@ -40,7 +49,6 @@ void Utf8MarcRecordClass::MakeNorms(const FieldRecord& field, SubfieldRecord& su
   AppendTextNorm(text, true, character_set_out_, false, norm);
   subfield.normalized_v = table_.Arena().Keep(norm);
   subfield.normalized_p = subfield.normalized_v;
-  subfield.has_norms = true;
   if (std::none_of(text.begin(), text.end(), MakesNacoFormDiffer)) return;
 
   norm.clear();
@@ -65,14 +73,14 @@ void Utf8MarcRecordClass::SettleNorms() {
   for (std::int16_t row = 0; row < table_.Count(); ++row) SettleNorms(table_.Field(row));
 }
 
-std::string_view Utf8MarcRecordClass::SfdNormView() const {
+std::string_view Utf8MarcRecordClass::SfdNormView() {
   if (!HasSubfield()) return {};
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), current_subfield_);
   if (!subfield.has_norms) MakeNorms(CurrentField(), subfield);
   return subfield.normalized_v;
 }
 
-std::string_view Utf8MarcRecordClass::SfdNormNacoView() const {
+std::string_view Utf8MarcRecordClass::SfdNormNacoView() {
   if (!HasSubfield()) return {};
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), current_subfield_);
   if (!subfield.has_norms) MakeNorms(CurrentField(), subfield);

@@ -57,7 +57,8 @@ struct SubfieldRecord {
   std::int16_t order_rule_kind = 0;
   std::int16_t next = kNoRow;
   std::int16_t prev = kNoRow;
-  char code = '\0';  // '\0' for the one subfield of a control field
+  char code = '\0';     // '\0' for the one subfield of a control field
+  char norm_set = 'U';  // the output set in force when it was added
   NormOrigin norm_origin = NormOrigin::kFirst;
   bool has_norms = false;
   bool deleted = false;

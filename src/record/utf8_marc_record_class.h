@@ -220,7 +220,8 @@ class Utf8MarcRecordClass {
   // FldAdd; the fourth argument is not looked at.
   void FldAddGeneric(std::string_view tag, std::string_view indicators, std::string_view text,
                      std::string_view ignored);
-  // Adds next to the current field if that keeps the field order, else FldAdd.
+  // Add next to the current field if that keeps the field order, else FldAdd.
+  // Indicators that are neither empty nor two digits or blanks end the call.
   void FldInsertAfter(std::string_view tag, std::string_view indicators, std::string_view text);
   void FldInsertBefore(std::string_view tag, std::string_view indicators, std::string_view text);
   // Rebuild the current field.  A field whose place changes comes back under
@@ -424,11 +425,11 @@ class Utf8MarcRecordClass {
   std::string FldNorm();
   std::string FldNormNaco();
   std::string FldNormNacoAlmost();
-  std::string SfdNorm() const { return std::string(SfdNormView()); }
-  std::string SfdNormNaco() const { return std::string(SfdNormNacoView()); }
+  std::string SfdNorm() { return std::string(SfdNormView()); }
+  std::string SfdNormNaco() { return std::string(SfdNormNacoView()); }
   // Valid until the record changes or the next record is loaded.
-  std::string_view SfdNormView() const;
-  std::string_view SfdNormNacoView() const;
+  std::string_view SfdNormView();
+  std::string_view SfdNormNacoView();
   std::string FldTextNormalizable() const;
   void FldLoadInfoNormalizable(std::string& tag, std::string& indicators, std::string& text) const;
   std::string RemoveDiacritics(std::string_view text) const;
@@ -486,93 +487,121 @@ class Utf8MarcRecordClass {
 
   // Image (record_image_io.cpp).
   void Empty();
+  char DecideCharacterSet() const;
+  void LoadInCharacterSet(char set);
   void LoadFields();
-  void LoadField(std::string_view tag, std::string_view text, std::string_view entry,
-                 std::string_view& text_of_001);
+  bool LoadField(std::string_view tag, std::string_view text, std::string_view& text_of_001);
   void CheckLoadOrder();
   void BeforeRecordOut();
   void RecastThesisNote();
   bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
                        std::string& miscellaneous, std::string& institution,
                        std::string& year) const;
-  void ReadBooleanSettings();
-  void WriteBooleanSetting(std::string_view key, bool value);
+  void AppendText(const FieldRecord& field, std::string& out) const;
 
-  // Field editing (field_editing.cpp).  `text` must stay valid while the record
-  // is held: a view of the image or of the arena.
+  // Settings (record_settings.cpp).
+  void ReadBooleanSettings();
+  void WriteBooleanSetting(std::string_view key, bool value) const;
+
+  // Field editing (field_editing.cpp).  The text of AddField must stay valid
+  // while the record is held: a view of the image or of the arena.
   bool AddField(std::string_view tag, std::string_view indicators, std::string_view text,
                 bool at_top);
-  void RebuildField(std::string_view tag, std::string_view indicators, std::string_view text);
-  void ParseFieldText(std::int16_t row, std::string_view text);
-  std::string_view KeptNumericSubfields(std::string_view text);
-  bool MayStay(const FieldRecord& field, const OrderKey& key, bool has_subfield6) const;
-  void FillRow(FieldRecord& field, std::string_view tag, std::string_view indicators,
-               const OrderKey& key);
+  std::int16_t AppendFieldRow(std::string_view tag, std::string_view indicators,
+                              const OrderKey& key);
+  static void SetTagAndIndicators(FieldRecord& field, std::string_view tag,
+                                  std::string_view indicators);
   std::string_view ControlFieldText(std::string_view tag, std::string_view text, bool size_008);
   std::string_view DataFieldText(std::string_view text);
+  void ParseFieldText(std::int16_t row, std::string_view text);
+  void ParseSubfields(FieldRecord& field, std::string_view text);
+  void RebuildField(std::string_view tag, std::string_view indicators, std::string_view text);
+  std::string_view WithKeptNumericSubfields(std::string_view text);
+  bool MayStay(const FieldRecord& field, const OrderKey& key, bool has_subfield6) const;
+  void SetIndicator(std::size_t position, std::string_view indicator);
   void InsertBeside(std::string_view tag, std::string_view indicators, std::string_view text,
                     bool after);
-  void PlaceField(std::int16_t row, bool at_top, bool pairing);
+  bool FitsBeside(std::int16_t row, std::string_view key, bool after) const;
+  std::int16_t RowAheadOfSubfieldH() const;
+  bool HasLiveSubfield(std::string_view codes) const;
+
+  // The chain of fields (field_placing.cpp).
+  void LinkLast(std::int16_t row);
+  void LinkAfter(std::int16_t row, std::int16_t prev);
+  void LinkBefore(std::int16_t row, std::int16_t next);
+  void Unlink(std::int16_t row);
+  void PlaceField(std::int16_t row, bool at_top);
   void PlaceByKey(std::int16_t row, bool at_top);
   void PlacePaired880(std::int16_t row);
   void PlaceByLink(std::int16_t row);
-  void LinkLast(std::int16_t row);
-  void Unlink(std::int16_t row);
-  void LinkBefore(std::int16_t row, std::int16_t next);
-  void LinkAfter(std::int16_t row, std::int16_t prev);
   void MoveBefore(std::int16_t row, std::int16_t next);
+  void MoveAfter(std::int16_t row, std::int16_t prev);
   void ExchangeWithPrevious(std::int16_t row);
 
-  // Subfield editing (subfield_editing.cpp).
+  // Subfield editing (subfield_editing.cpp).  Texts as for AddField.
+  void AddSubfield(FieldRecord& field, char code, std::string_view text);
+  void AddControlText(FieldRecord& field, std::string_view text);
   void AddFirstSubfield(FieldRecord& field, char code, std::string_view text);
   void InsertSubfield(char code, std::string_view text, bool after);
-  std::int16_t NewSubfieldRow(FieldRecord& field, char code, std::string_view text,
-                              NormOrigin origin);
-  void WalkIntoPlace();
-  void ShiftSubfield(SubfieldMove direction);
+  void InsertBesideSubfield(std::string_view code, std::string_view text, bool after);
+  std::int16_t AppendSubfieldRow(FieldRecord& field, char code, std::string_view text,
+                                 NormOrigin origin);
+  void LinkSubfields(FieldRecord& field, std::int16_t left, std::int16_t right);
   void ExchangeSubfields(std::int16_t left, std::int16_t right);
-  void NoteSubfieldOrder(bool moved, char code);
-  bool ResolveDuplicateOclcNumber(std::string& text);
-  std::string CleanedOclcNumber(std::string_view text) const;
+  bool StepSubfield(SubfieldMove direction);
+  void ShiftSubfield(SubfieldMove direction);
+  void WalkIntoPlace();
+  void NoteFieldOutOfOrder();
   void SetLeading6(std::string_view text);
-  void RefileLocalField(std::string_view text);
-  std::string GmdEnding(std::string_view h) const;
-  void GiveEndingTo245(std::string_view ending);
+  std::string_view ResolveDuplicateOclcNumber(std::string_view text);
+  std::string GmdEnding();
+  void GiveEndingTo245(const std::string& ending);
+  void AppendToSubfield(std::int16_t row, std::string_view ending);
+
+  // Fixed fields (fixed_fields.cpp).
+  bool OnFixedField() const;
 
   // Comparison forms of a subfield, made when first asked for
   // (normalize/subfield_norms.cpp).  SettleNorms makes all that are pending,
-  // before a setting that they depend on changes.
-  void MakeNorms(const FieldRecord& field, SubfieldRecord& subfield) const;
+  // before something that they depend on changes.
+  void MakeNorms(const FieldRecord& field, SubfieldRecord& subfield);
+  void WriteNorms(const FieldRecord& field, SubfieldRecord& subfield);
   void SettleNorms();
   void SettleNorms(const FieldRecord& field);
 
   // Order (field_order.cpp, subfield_order.cpp).
   OrderKey MakeFieldOrderKey(std::string_view tag, std::string_view indicators,
-                             std::string_view text);
+                             std::string_view text) const;
   bool PairingIsOn() const;
-  void LoadFieldOrder();
-  void SubfieldOrderRowFor(std::string_view tag);
-  void LookUpOrderRule(char code, SubfieldRecord& subfield) const;
   SubfieldMove CompareSubfieldOrder(std::int16_t row) const;
 
   // Character sets (charset/).
   void SetCharacterSetOutLetter(char letter, bool lc_pattern);
-  void TranslateRecord(char from, char to);
+  void TranslateRecord();
   void DecomposeAllFields();
-  void AdjustDoubleHalfDiacriticsInAllFields();
 
-  // Cursor (field_cursor.cpp, subfield_cursor.cpp).
+  // Cursors (field_cursor.cpp, subfield_cursor.cpp).
   void ClearAtEndFlags();
-  void GoToField(std::int16_t row);
-  bool FieldPasses(std::string_view tag_list);
-  bool FindFieldForward(bool text_given);
-  bool FindFieldBackward(bool text_given);
-  bool RememberFieldSearch(std::string_view tag_list);
-  template <typename Find>
-  bool TestField(Find find);
-  bool SubfieldPasses() const;
-  template <typename Find>
-  bool TestSubfield(Find find);
+  void GoForward(std::int16_t row, bool skip_deleted);
+  void GoBackward(std::int16_t row, bool skip_deleted);
+  void RememberTagList(std::string_view tag_list);
+  bool BeginFieldSearch(std::string_view tag_list, std::string_view text);
+  bool ContinueFieldSearch(std::string_view tag_list, std::string_view text);
+  bool FieldPasses();
+  bool FindForward();
+  bool FindBackward();
+  template <typename Search>
+  bool TestField(Search search);
+  std::string TagOfRow(std::int16_t row) const;
+  bool GoToSubfield(std::int16_t row);
+  bool GoToSubfieldForward(std::int16_t row, bool skip_deleted);
+  bool GoToSubfieldBackward(std::int16_t row, bool skip_deleted);
+  bool BeginSubfieldSearch(std::string_view codes);
+  bool SubfieldPasses();
+  bool FindSubfieldForward();
+  bool FindSubfieldBackward();
+  template <typename Search>
+  bool TestSubfield(Search search);
 
   // The image.
   std::string image_;           // as loaded, leader repaired
@@ -580,11 +609,12 @@ class Utf8MarcRecordClass {
   std::string_view data_;       // the data section: of image_ or of data_copy_
   std::string_view directory_;  // of image_
   std::string leader_;
+  std::string out_data_;  // the data section under construction
   std::string is_marc_error_text_;
   std::string character_encoding_scheme_ = " ";
 
   // The table and its chain.
-  mutable FieldTable table_;  // mutable: comparison forms are made when asked for
+  FieldTable table_;
   std::int16_t first_field_ = kNoRow;
   std::int16_t last_field_ = kNoRow;
   std::int16_t field_008_ = kNoRow;
@@ -609,8 +639,8 @@ class Utf8MarcRecordClass {
   bool is_authority_ = false;
   bool new_record_ = false;
   bool modified_ = false;
-  bool parsing_ = false;  // SfdAdd is called while a field text is parsed
-  bool shifting_ = false;
+  bool in_key_order_ = true;  // the chain stands in ascending order of keys
+  bool parsing_ = false;      // subfields are added while a field text is parsed
   bool fields_out_of_order_ = false;
   bool subfields_out_of_order_ = false;
   bool field_order_changed_ = false;

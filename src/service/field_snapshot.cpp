@@ -29,7 +29,7 @@ void AppendWhole(char code, std::string_view text, std::string& out) {
   out += text;
 }
 
-void AddSubfield(const Utf8MarcRecordClass& record, FieldSnapshot& snapshot) {
+void AddSubfield(Utf8MarcRecordClass& record, FieldSnapshot& snapshot) {
   const std::string_view code_text = record.SfdCodeView();
   const char code = code_text.empty() ? ' ' : code_text.front();
   switch (code) {

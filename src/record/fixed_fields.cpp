@@ -1,0 +1,219 @@
+// Leader, 006, 007 and 008 by position (from 0), and the format of a record.
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "charset/octet_text.h"
+#include "platform/clock.h"
+#include "record/default_008.h"
+#include "record/field_007.h"
+#include "record/record_image.h"
+#include "record/safe_text.h"
+#include "record/utf8_marc_record_class.h"
+
+namespace cantorel {
+
+namespace {
+
+// Kinds of record that a change of leader/06 must stay in.
+constexpr std::string_view kBibliographicTypes = "acdefgijkmoprt";
+constexpr std::string_view kHoldingsTypes = "uvxy";
+constexpr std::string_view kFixedTypes = "zqw";
+
+constexpr std::size_t k006Length = 18;
+constexpr std::size_t kUnknown007Length = 14;
+
+bool Contains(std::string_view list, char c) {
+  return list.find(c) != std::string_view::npos;
+}
+
+// Format by leader/06; "a" also asks whether the record is a serial.
+char FormatOf(char type, bool serial) {
+  switch (type) {
+    case 'a':
+      return serial ? 'S' : 'B';
+    case 't':
+      return 'B';
+    case 'c':
+    case 'd':
+    case 'i':
+    case 'j':
+      return 'M';
+    case 'e':
+    case 'f':
+      return 'P';
+    case 'g':
+    case 'k':
+    case 'o':
+    case 'r':
+      return 'F';
+    case 'm':
+      return 'D';
+    case 'b':
+    case 'p':
+      return 'U';
+    case 'v':
+    case 'x':
+    case 'y':
+    case 'u':
+      return 'H';
+    case 'z':
+      return 'A';
+    case 'q':
+      return 'Q';
+    case 'w':
+      return 'W';
+    default:
+      return '?';
+  }
+}
+
+bool TypeMayBecome(char present, char wanted) {
+  if (present == ' ') return true;
+  if (Contains(kBibliographicTypes, present)) return Contains(kBibliographicTypes, wanted);
+  if (Contains(kHoldingsTypes, present)) return Contains(kHoldingsTypes, wanted);
+  return !Contains(kFixedTypes, present);
+}
+
+// The text an empty 006, 007 or 008 begins with before positions are written.
+std::string BlankFixedField(std::string_view tag, char format, std::string_view value) {
+  if (tag == "006") return std::string(k006Length, ' ');
+  if (tag == "008") {
+    std::string text = CurrentDateTime().substr(2, 6);
+    text.resize(format == 'H' ? 32 : format == 'Q' ? 15 : format == 'W' ? 14 : 40, ' ');
+    return text;
+  }
+  const char category = value.empty() ? ' ' : value[0];
+  // The 007 of a sound of kind "d" is made 6 long, which is deliberate.
+  const int known = category == 'd'   ? 6
+                    : category == 'g' ? 9
+                    : category == 'r' ? 15
+                                      : Length007(category);
+  std::string text(known == 0 ? kUnknown007Length : static_cast<std::size_t>(known), ' ');
+  if (category == 'm' || category == 'r') text.replace(text.size() - 6, 6, "||||||");
+  return text;
+}
+
+}  // namespace
+
+// --- Leader ------------------------------------------------------------------
+
+std::string Utf8MarcRecordClass::GetLeaderValue(std::int16_t position, std::int16_t length) const {
+  if (leader_.empty() || position < 0 || length < 1 || position >= 24 || position + length >= 25) {
+    return {};
+  }
+  if (static_cast<std::size_t>(position) >= leader_.size()) return {};
+  return leader_.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(length));
+}
+
+void Utf8MarcRecordClass::ChangeLeaderValue(std::int16_t position, std::string_view value) {
+  if (value.empty() || position < 0 || leader_.size() != kLeaderLength) return;
+  if (static_cast<std::size_t>(position) + 1 + value.size() >= 26) return;
+  const auto place = static_cast<std::size_t>(position);
+  std::string new_value(value);
+  if (position == 6 && !TypeMayBecome(leader_[6], value[0])) return;
+  if (position == 9 && value[0] != leader_[9]) {
+    if (value[0] != 'a') new_value[0] = ' ';
+    leader_.replace(place, new_value.size(), new_value);
+    CharacterSetOut(value[0] == 'a' ? "U" : "V");
+    return;
+  }
+  if (position == 6 && value[0] != leader_[6]) SettleNorms();
+  leader_.replace(place, std::min(new_value.size(), kLeaderLength - place), new_value);
+  if (position == 6 || position == 7) SetFormatCode({});
+}
+
+// --- 008 ---------------------------------------------------------------------
+
+std::string Utf8MarcRecordClass::Get008Value(std::int16_t position, std::int16_t length) const {
+  if (field_008_ == kNoRow || position < 0 || length < 1 || position + length >= 41) return {};
+  const FieldRecord& field = table_.Field(field_008_);
+  if (field.subfield_max == kNoRow) return {};
+  const std::string_view text = table_.Subfield(field, 0).text;
+  return std::string(
+      From(text, static_cast<std::size_t>(position)).substr(0, static_cast<std::size_t>(length)));
+}
+
+void Utf8MarcRecordClass::Change008Value(std::int16_t position, std::string_view value) {
+  if (field_008_ == kNoRow || value.empty() || position < 0 || position + 1 >= 41) return;
+  if (static_cast<std::size_t>(position) + 1 + value.size() >= 42) return;
+  FieldRecord& field = table_.Field(field_008_);
+  if (field.subfield_max == kNoRow) return;
+  // The comparison forms stay those of the text as it was added.
+  SettleNorms(field);
+  SubfieldRecord& subfield = table_.Subfield(field, 0);
+  subfield.text = table_.Arena().Keep(cantorel::SafeStuff(
+      subfield.text, position + 1, static_cast<std::int32_t>(value.size()), value));
+  field.changed = true;
+}
+
+// --- 006, 007, 008 as the current field ---------------------------------------
+
+bool Utf8MarcRecordClass::OnFixedField() const {
+  const std::string_view tag = FldTagView();
+  return tag == "006" || tag == "007" || tag == "008";
+}
+
+std::string Utf8MarcRecordClass::GetFixedField(std::int16_t position, std::int16_t length) const {
+  if (!OnFixedField() || position < 0 || length < 1) return {};
+  const std::string text = FldText();
+  return std::string(
+      From(text, static_cast<std::size_t>(position)).substr(0, static_cast<std::size_t>(length)));
+}
+
+void Utf8MarcRecordClass::ChangeFixedField(std::int16_t position, std::int16_t length,
+                                           std::string_view value) {
+  if (!OnFixedField() || position < 0 || length < 1) return;
+  std::string text = FldText();
+  if (text.empty()) text = BlankFixedField(FldTagView(), format_code_, value);
+  if (static_cast<std::size_t>(position) + static_cast<std::size_t>(length) > text.size()) return;
+  text = cantorel::SafeStuff(text, position + 1, length, value);
+  FieldRecord& field = CurrentField();
+  const std::string_view kept = table_.Arena().Keep(text);
+  if (field.subfield_max == kNoRow) {
+    AddFirstSubfield(field, '\0', kept);
+  } else {
+    SettleNorms(field);
+    table_.Subfield(field, 0).text = kept;
+  }
+  field.changed = true;
+}
+
+// --- Format ------------------------------------------------------------------
+
+std::string Utf8MarcRecordClass::SetFormatCode(std::string_view leader) {
+  const std::string_view judged = leader.empty() ? std::string_view(leader_) : leader;
+  char type = ' ';
+  if (judged.size() >= kLeaderLength) {
+    type = judged[6];
+  } else if (!judged.empty()) {
+    type = judged[0];
+  }
+  format_code_ = FormatOf(type, type == 'a' && SerialBibliographicRecord(judged));
+  return MarcRecordFormat();
+}
+
+bool Utf8MarcRecordClass::SerialBibliographicRecord(std::string_view leader) const {
+  const std::string_view judged = leader.empty() ? std::string_view(leader_) : leader;
+  std::string_view pair;
+  if (judged.size() == 2) {
+    pair = judged;
+  } else if (judged.size() >= 8) {
+    pair = judged.substr(6, 2);
+  }
+  return pair.size() == 2 && pair[0] == 'a' && Contains("bis", pair[1]);
+}
+
+std::string Utf8MarcRecordClass::Default008(std::string_view format_code, std::string_view date) {
+  const char format = format_code.empty() ? '\0' : format_code[0];
+  const auto* found = std::find_if(std::begin(kDefault008), std::end(kDefault008),
+                                   [&](const auto& t) { return t.format == format; });
+  if (found == std::end(kDefault008)) return {};
+  // A date of another length gives way to today's in eight digits, so that the
+  // result is two characters too long until FldAdd cuts it; that is deliberate.
+  std::string text = date.size() == 6 ? std::string(date) : CurrentDateTime().substr(0, 8);
+  return text.append(found->text.substr(6));
+}
+
+}  // namespace cantorel

@@ -1,0 +1,330 @@
+// Adding, changing and marking subfields of the current field.
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "charset/marc_control.h"
+#include "charset/octet_text.h"
+#include "charset/utf8.h"
+#include "record/oclc_number.h"
+#include "record/utf8_marc_record_class.h"
+
+namespace cantorel {
+
+namespace {
+
+constexpr char kUnusableCode = '9';  // stands for a code that is no code
+
+bool IsUsableCode(char code) {
+  return Octet(code) > ' ';
+}
+
+// A blank counts as part of the text in 010, and in the $0 of an authority.
+bool KeepsBlanks(std::string_view tag, char format, char code) {
+  return tag == "010" || (format == 'A' && code == '0');
+}
+
+}  // namespace
+
+std::string Utf8MarcRecordClass::SfdDelim(std::string_view code) {
+  return std::string(1, kDelimiter).append(code.substr(0, 1));
+}
+
+std::string Utf8MarcRecordClass::SfdMake(std::string& code, const std::string& text) {
+  code = Trim(code);
+  if (code.size() > 1) {
+    if (code[0] == kDelimiter) code.erase(0, 1);
+    code.resize(1);
+  }
+  if (code.empty() || text.empty()) return {};
+  return SfdDelim(code) + text;
+}
+
+// --- Adding ------------------------------------------------------------------
+
+void Utf8MarcRecordClass::SfdAdd(std::string_view code, std::string_view text) {
+  if (!HasField()) return;
+  const char one = code.size() == 1 ? code[0] : ' ';
+  AddSubfield(CurrentField(), one, table_.Arena().Keep(text));
+}
+
+// `text` must stay valid while the record is held.
+void Utf8MarcRecordClass::AddSubfield(FieldRecord& field, char code, std::string_view text) {
+  if (field.is_control) return AddControlText(field, text);
+  if (code == '6' && !parsing_) return SetLeading6(text);
+  if (code == 'a' && remove_duplicate_oclc_numbers_ && field.Tag() == "035") {
+    text = ResolveDuplicateOclcNumber(text);
+  }
+  if (!IsUsableCode(code)) {
+    code = kUnusableCode;
+    modified_ = true;
+  }
+  if (field.subfield_max == kNoRow || !SfdMoveLast(true)) {
+    field.first_subfield = field.last_subfield = kNoRow;
+    field.subfield_max = kNoRow;
+    AddFirstSubfield(field, code, text);
+    return;
+  }
+  field.changed = true;
+  InsertSubfield(code, text, true);
+}
+
+// The one subfield of a control field is row 0.  What is added later goes to a
+// spare row that nothing delivers: a control field is replaced through FldText.
+void Utf8MarcRecordClass::AddControlText(FieldRecord& field, std::string_view text) {
+  if (field.subfield_max != kNoRow) {
+    field.changed = true;
+    return;
+  }
+  AddFirstSubfield(field, '\0', text);
+}
+
+void Utf8MarcRecordClass::AddFirstSubfield(FieldRecord& field, char code, std::string_view text) {
+  const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kFirst);
+  if (row == kNoRow) return;
+  field.first_subfield = field.last_subfield = row;
+  current_subfield_ = row;
+  subfield_found_ = true;
+}
+
+std::int16_t Utf8MarcRecordClass::AppendSubfieldRow(FieldRecord& field, char code,
+                                                    std::string_view text, NormOrigin origin) {
+  const std::int16_t row = table_.AppendSubfield(field);
+  if (row == kNoRow) return kNoRow;
+  SubfieldRecord& subfield = table_.Subfield(field, row);
+  subfield.code = code;
+  subfield.text = text;
+  subfield.norm_origin = origin;
+  subfield.norm_set = character_set_out_;
+  return row;
+}
+
+void Utf8MarcRecordClass::SfdInsertBefore(std::string_view code, std::string_view text) {
+  InsertBesideSubfield(code, text, false);
+}
+
+void Utf8MarcRecordClass::SfdInsertAfter(std::string_view code, std::string_view text) {
+  InsertBesideSubfield(code, text, true);
+}
+
+void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::string_view text,
+                                               bool after) {
+  if (!HasField() || code.empty() || FldIsControl()) return;
+  if (HasSubfield()) return InsertSubfield(code[0], table_.Arena().Keep(text), after);
+  // Without a current subfield there is a place only in a field that has none.
+  if (CurrentField().subfield_max == kNoRow) SfdAdd(code, text);
+}
+
+// Puts a subfield beside the current one; an empty text is not inserted.
+void Utf8MarcRecordClass::InsertSubfield(char code, std::string_view text, bool after) {
+  if (text.empty()) return;
+  FieldRecord& field = CurrentField();
+  if (!KeepsBlanks(field.Tag(), format_code_, code)) text = Trim(text);
+  const std::int16_t beside = current_subfield_;
+  const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kInserted);
+  if (row == kNoRow) return;
+  field.changed = true;
+  if (after) {
+    LinkSubfields(field, row, table_.Subfield(field, beside).next);
+    LinkSubfields(field, beside, row);
+  } else {
+    LinkSubfields(field, table_.Subfield(field, beside).prev, row);
+    LinkSubfields(field, row, beside);
+  }
+  current_subfield_ = row;
+  subfield_found_ = true;
+  WalkIntoPlace();
+}
+
+// Makes two rows neighbours; kNoRow stands for an end of the field.
+void Utf8MarcRecordClass::LinkSubfields(FieldRecord& field, std::int16_t left, std::int16_t right) {
+  (left == kNoRow ? field.first_subfield : table_.Subfield(field, left).next) = right;
+  (right == kNoRow ? field.last_subfield : table_.Subfield(field, right).prev) = left;
+}
+
+// A $6 always goes first.  It may change what the field is linked to.
+void Utf8MarcRecordClass::SetLeading6(std::string_view text) {
+  FieldRecord& field = CurrentField();
+  std::string linked = SfdDelim("6").append(text);
+  AppendText(field, linked);
+  field.link_key = MakeFieldOrderKey(field.Tag(), field.Indicators(), linked).link;
+  const bool found = GoToSubfieldForward(field.first_subfield, true);
+  if (found) return InsertSubfield('6', text, false);
+  field.subfield_max = kNoRow;
+  AddFirstSubfield(field, '6', text);
+}
+
+// The number in the form that the settings ask for.  When another 035 holds the
+// same number the current field is marked deleted.
+std::string_view Utf8MarcRecordClass::ResolveDuplicateOclcNumber(std::string_view text) {
+  if (!IsOclcNumber(text)) return text;
+  const OclcNumberForm form{!remove_oclc_alphabetic_prefix_, oclc_numbers_have_leading_zeroes_};
+  const std::string cleaned = CleanOclcNumber(text, form);
+  for (std::int16_t row = first_field_; row != kNoRow; row = table_.Field(row).next) {
+    const FieldRecord& other = table_.Field(row);
+    if (row == current_field_ || other.deleted || other.Tag() != "035") continue;
+    for (std::int16_t s = other.first_subfield; s != kNoRow; s = table_.Subfield(other, s).next) {
+      const SubfieldRecord& subfield = table_.Subfield(other, s);
+      if (subfield.code == 'a' && !subfield.deleted && IsOclcNumber(subfield.text) &&
+          CleanOclcNumber(subfield.text, form) == cleaned) {
+        CurrentField().deleted = true;
+      }
+    }
+  }
+  return table_.Arena().Keep(cleaned);
+}
+
+// --- Changing ----------------------------------------------------------------
+
+void Utf8MarcRecordClass::SfdChange(std::string_view code, std::string_view text) {
+  if (!HasSubfield() || FldIsControl()) return;
+  const char one = code.size() == 1 ? code[0] : kUnusableCode;
+  const bool is_010 = FldTagView() == "010";
+  const bool keep_blanks = is_010 && (format_code_ != 'A' || one == '0');
+  SubfieldRecord& subfield = CurrentSubfield();
+  subfield.code = one;
+  subfield.text = table_.Arena().Keep(keep_blanks ? text : Trim(text));
+  RebuildField(FldTag(), FldInd(), FldText());
+}
+
+void Utf8MarcRecordClass::SfdCode(std::string_view code) {
+  SfdChange(code, SfdText());
+}
+
+void Utf8MarcRecordClass::SfdText(std::string_view text) {
+  if (!text.empty() && text[0] == kDelimiter) {
+    SfdChange(text.substr(1, 1), From(text, 2));
+  } else {
+    SfdChange(SfdCode(), text);
+  }
+}
+
+// --- Deleting ----------------------------------------------------------------
+
+void Utf8MarcRecordClass::SfdDelete(bool care) {
+  if (!HasSubfield()) return;
+  FieldRecord& field = CurrentField();
+  SubfieldRecord& subfield = CurrentSubfield();
+  const bool is_gmd = care && subfield.code == 'h' && (field.Tag() == "245" || field.tag[0] == '8');
+  const std::string ending = is_gmd ? GmdEnding() : std::string();
+  subfield.deleted = true;
+  field.changed = true;
+  if (is_gmd && field.Tag() == "245") GiveEndingTo245(ending);
+}
+
+// Does not bring a subfield back: it marks it deleted, as SfdDelete without care
+// does, which is deliberate.
+void Utf8MarcRecordClass::SfdUndelete() {
+  SfdDelete(false);
+}
+
+// What stands behind the designation in the current $h: behind its last "]", or
+// without one behind its last letter.
+std::string Utf8MarcRecordClass::GmdEnding() {
+  const std::string_view text = CurrentSubfield().text;
+  std::size_t end = text.rfind(']');
+  if (end == std::string_view::npos) {
+    const std::string_view norm = SfdNormView();
+    if (norm.empty()) return {};
+    end = text.rfind(AsciiLower(norm.back()));
+  }
+  return end == std::string_view::npos ? std::string() : std::string(text.substr(end + 1));
+}
+
+void Utf8MarcRecordClass::GiveEndingTo245(const std::string& ending) {
+  if (ending.empty()) {
+    const std::string last = SafeRight(FldText(), 1);
+    const bool word_ends = CharIsAlpha(last) || (last.size() == 1 && IsAsciiDigit(last[0]));
+    if (!word_ends) return;
+    const FieldRecord& field = CurrentField();
+    for (std::int16_t row = field.last_subfield; row != kNoRow;
+         row = table_.Subfield(field, row).prev) {
+      if (!table_.Subfield(field, row).deleted) return AppendToSubfield(row, ".");
+    }
+    return;
+  }
+  const FieldRecord& field = CurrentField();
+  std::int16_t row = CurrentSubfield().prev;
+  while (row != kNoRow && table_.Subfield(field, row).deleted)
+    row = table_.Subfield(field, row).prev;
+  if (row != kNoRow && !table_.Subfield(field, row).text.ends_with(ending)) {
+    AppendToSubfield(row, ending);
+  }
+}
+
+void Utf8MarcRecordClass::AppendToSubfield(std::int16_t row, std::string_view ending) {
+  SubfieldRecord& subfield = table_.Subfield(CurrentField(), row);
+  subfield.text = table_.Arena().Keep(std::string(subfield.text).append(ending));
+  subfield.has_norms = false;
+}
+
+// --- Order -------------------------------------------------------------------
+
+// Exchanges two neighbours in the chain.
+void Utf8MarcRecordClass::ExchangeSubfields(std::int16_t left, std::int16_t right) {
+  FieldRecord& field = CurrentField();
+  const std::int16_t before = table_.Subfield(field, left).prev;
+  const std::int16_t behind = table_.Subfield(field, right).next;
+  LinkSubfields(field, before, right);
+  LinkSubfields(field, right, left);
+  LinkSubfields(field, left, behind);
+}
+
+// Moves the current subfield one place; false when it has no neighbour there.
+bool Utf8MarcRecordClass::StepSubfield(SubfieldMove direction) {
+  const std::int16_t row = current_subfield_;
+  const SubfieldRecord& subfield = CurrentSubfield();
+  if (direction == SubfieldMove::kLeft) {
+    if (subfield.prev == kNoRow) return false;
+    ExchangeSubfields(subfield.prev, row);
+    return true;
+  }
+  if (subfield.next == kNoRow) return false;
+  ExchangeSubfields(row, subfield.next);
+  return true;
+}
+
+void Utf8MarcRecordClass::ShiftSubfield(SubfieldMove direction) {
+  if (!HasSubfield() || !StepSubfield(direction)) return;
+  while (CompareSubfieldOrder(current_subfield_) == direction && StepSubfield(direction)) {
+  }
+}
+
+void Utf8MarcRecordClass::SfdShiftLeft() {
+  ShiftSubfield(SubfieldMove::kLeft);
+}
+
+void Utf8MarcRecordClass::SfdShiftRight() {
+  ShiftSubfield(SubfieldMove::kRight);
+}
+
+// Walks a new subfield to where the subfield order wants it, or reports it.
+void Utf8MarcRecordClass::WalkIntoPlace() {
+  const SubfieldMove direction = CompareSubfieldOrder(current_subfield_);
+  if (direction == SubfieldMove::kNone) return;
+  // A $w moves without being recorded.
+  const bool record = CurrentSubfield().code != 'w';
+  if (!test_subfield_order_ || make_no_change_) {
+    if (record) {
+      subfields_out_of_order_ = true;
+      NoteFieldOutOfOrder();
+    }
+    return;
+  }
+  ShiftSubfield(direction);
+  if (record) {
+    subfield_order_changed_ = true;
+    NoteFieldOutOfOrder();
+  }
+}
+
+void Utf8MarcRecordClass::NoteFieldOutOfOrder() {
+  std::string& tags = fields_with_subfields_out_of_order_;
+  const std::string_view tag = FldTagView();
+  if (tags.find(tag) != std::string::npos) return;
+  if (!tags.empty()) tags += ' ';
+  tags += tag;
+}
+
+}  // namespace cantorel
