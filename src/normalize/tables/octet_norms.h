@@ -78,7 +78,8 @@ inline constexpr OctetNormRow kOctetNormsOfV[] = {
 // Sets "M" and "O" only.
 inline constexpr OctetNormRow kOctetNormsOfM[] = {
     {0xBE, 0xBE, "L"},  // script l, at three places
-    {0xC0, 0xC1, "L"},
+    {0xC0, 0xC0, "L"},
+    {0xC1, 0xC1, "L"},
 };
 
 // clang-format on
