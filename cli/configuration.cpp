@@ -1,0 +1,64 @@
+#include "cli/configuration.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "platform/file_layer.h"
+#include "service/cantorel_class.h"
+
+namespace cantorel::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kVocabulary = "MusicMedium.Lcmpt.txt";
+constexpr std::string_view kDerivationTable = "Music6xxTo655.txt";
+// Where the folder stands as seen from the program: installed, beside it, and
+// from build/<preset>/ in a source tree.
+constexpr std::string_view kPlaces[] = {"../share/cantorel/config", "config", "../config",
+                                        "../../config"};
+
+bool Refuse(const std::string& folder, const std::string& why) {
+  std::fprintf(stderr, "cantorel: configuration folder %s %s\n", folder.c_str(), why.c_str());
+  return false;
+}
+
+}  // namespace
+
+std::string FolderOfProgram() {
+  const fs::path program_folder = ProgramFolder();
+  for (const std::string_view place : kPlaces) {
+    const fs::path folder = program_folder / place;
+    if (FileExists((folder / kVocabulary).string())) return folder.lexically_normal().string();
+  }
+  return {};
+}
+
+bool Configure(CantorelClass& cantorel, std::string folder) {
+  if (folder.empty()) folder = FolderOfProgram();
+  if (folder.empty()) {
+    std::fprintf(stderr,
+                 "cantorel: no configuration folder came with the program; "
+                 "name one with --config\n");
+    return false;
+  }
+  std::error_code error;
+  // The whole path, because the component has a meaning of its own for "me".
+  const std::string path = fs::absolute(folder, error).string();
+  if (error || !fs::is_directory(path, error)) return Refuse(folder, "is not there");
+
+  cantorel.ConfigurationPath(path);
+  if (!FileExists(cantorel.ConfigurationPath() + std::string(kVocabulary))) {
+    return Refuse(folder, "has no " + std::string(kVocabulary));
+  }
+  // The component looks for the table at its first call, whatever it is given.
+  if (cantorel.AddFields({}, 1) == kNoDerivationTable) {
+    return Refuse(folder, "has no usable " + std::string(kDerivationTable));
+  }
+  return true;
+}
+
+}  // namespace cantorel::cli

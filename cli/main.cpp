@@ -1,0 +1,43 @@
+// The cantorel command.
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <iostream>
+
+#include "cli/configuration.h"
+#include "cli/convert_command.h"
+#include "cli/exit_status.h"
+#include "cli/heading_command.h"
+#include "cli/options.h"
+#include "service/cantorel_class.h"
+
+namespace cantorel::cli {
+namespace {
+
+int Run(int argc, const char* const* argv) {
+  Options options;
+  int status = kAllWell;
+  if (!ParseOptions(argc, argv, options, status)) return status;
+  CantorelClass cantorel;
+  if (!Configure(cantorel, options.configuration_folder)) return kWrongCall;
+  return options.command == Command::kHeading ? RunHeading(cantorel, options)
+                                              : RunConvert(cantorel, options);
+}
+
+}  // namespace
+}  // namespace cantorel::cli
+
+int main(int argc, char** argv) {
+#ifdef SIGPIPE
+  // A reader that goes away shows as a failed write, not as a sudden end.
+  std::signal(SIGPIPE, SIG_IGN);
+#endif
+  std::ios::sync_with_stdio(false);
+  try {
+    return cantorel::cli::Run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "cantorel: %s\n", error.what());
+    return cantorel::cli::kInputOutputFailed;
+  }
+}
