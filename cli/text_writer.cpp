@@ -22,6 +22,16 @@ std::string_view Refusal(std::int32_t result) {
   }
 }
 
+// Control number and title; the number of a record that has neither.
+std::string Heading(const RecordAnswer& answer) {
+  if (answer.control_number.empty() && answer.title.empty()) {
+    return "record " + std::to_string(answer.record);
+  }
+  if (answer.control_number.empty()) return answer.title;
+  if (answer.title.empty()) return answer.control_number;
+  return answer.control_number + "  " + answer.title;
+}
+
 void AppendField(const FieldAnswer& field, std::string& out) {
   out += field.IsReplacement() ? "  replace  " : "  add      ";
   out += field.tag;
@@ -46,12 +56,7 @@ void AppendMessage(const MessageAnswer& message, std::string& out) {
 }  // namespace
 
 void AppendText(const RecordAnswer& answer, std::string& out) {
-  if (answer.control_number.empty()) {
-    out += "record " + std::to_string(answer.record);
-  } else {
-    out += answer.control_number;
-  }
-  if (!answer.title.empty()) out.append("  ").append(answer.title);
+  out += Heading(answer);
   out += '\n';
 
   for (const FieldAnswer& field : answer.fields) AppendField(field, out);

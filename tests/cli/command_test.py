@@ -1,0 +1,182 @@
+#!/usr/bin/env python3
+"""Runs the built command as its users do.
+
+usage: command_test.py COMMAND SOURCE_FOLDER [TEST...]
+"""
+
+import json
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+COMMAND = str(Path(sys.argv.pop(1)).resolve())
+SOURCE = Path(sys.argv.pop(1))
+CONFIG = SOURCE / "config"
+SAMPLE = SOURCE / "examples" / "music.mrc"
+
+
+def run(*arguments, stdin=b"", **options):
+    options.setdefault("stdout", subprocess.PIPE)
+    return subprocess.run([COMMAND, *map(str, arguments)], input=stdin,
+                          stderr=subprocess.PIPE, timeout=120, **options)
+
+
+def image(*fields, record_type="c"):
+    """An ISO 2709 record of (tag, octets with indicators) pairs."""
+    directory, data = b"", b""
+    for tag, octets in fields:
+        octets += b"\x1e"
+        directory += b"%s%04d%05d" % (tag.encode(), len(octets), len(data))
+        data += octets
+    base = 25 + len(directory)
+    leader = b"%05dn%sm a22%05d i 4500" % (base + len(data) + 1, record_type.encode(), base)
+    return leader + directory + b"\x1e" + data + b"\x1d"
+
+
+FLUTE = image(("001", b"flute"), ("245", b"00\x1faSyrinx /\x1fcDebussy."),
+              ("650", b" 0\x1faFlute music."))
+
+
+class CommandTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+
+    def file(self, name, octets):
+        path = self.folder / name
+        path.write_bytes(octets)
+        return path
+
+    def check(self, done, status, *said):
+        """The status, and for other than 0 one line that says all of `said`."""
+        error = done.stderr.decode()
+        self.assertEqual(done.returncode, status, error)
+        self.assertEqual(error.count("\n"), 1 if said else 0, error)
+        for words in said:
+            self.assertIn(words, error)
+
+    def answers(self, *arguments, status=0, said=(), **options):
+        done = run("convert", "--format", "json", *arguments, **options)
+        self.check(done, status, *said)
+        return [json.loads(line) for line in done.stdout.splitlines()]
+
+    # --- What is answered --------------------------------------------------------
+
+    def test_json(self):
+        answer, = self.answers(self.file("one.mrc", FLUTE))
+        self.assertEqual(list(answer), ["source", "record", "control_number", "title", "result",
+                                        "fields", "messages"])
+        self.assertEqual([answer["record"], answer["control_number"], answer["title"]],
+                         [1, "flute", "Syrinx"])
+        self.assertEqual(answer["fields"], [
+            {"id": 0, "action": "add", "tag": "382", "indicators": "01",
+             "subfields": [["a", "flute"], ["n", "1"], ["s", "1"], ["2", "lcmpt"]]}])
+
+    def test_text(self):
+        done = run("convert", "-", stdin=FLUTE)
+        self.check(done, 0)
+        self.assertEqual(done.stdout.decode(),
+                         "flute  Syrinx\n  add      382 01 $a flute $n 1 $s 1 $2 lcmpt\n\n")
+
+    def test_existing_fields_are_replaced_or_left_alone(self):
+        changed, same = self.answers(stdin=b"".join(
+            image(("001", b"id"), ("382", b"01\x1fa%s\x1fn1\x1fs1\x1f2lcmpt" % term),
+                  ("650", b" 0\x1faFlute music."))
+            for term in (b"Flute", b"flute")))
+        self.assertEqual([(f["action"], f["id"]) for f in changed["fields"]], [("replace", 1)])
+        self.assertEqual((same["result"], same["fields"]), (0, []))
+
+    def test_samples(self):
+        answers = self.answers(SAMPLE)
+        self.assertEqual(len(answers), (SOURCE / "examples/music.txt").read_text().count("\n\n") + 1)
+        self.assertTrue(all(a["title"] and a["control_number"] for a in answers))
+        refused = [a for a in answers if a["result"] < 0]
+        self.assertEqual([a["title"] for a in refused], ["Walking with Bach : a reader's companion "
+                                                         "to the suites"])
+        silent = [a["title"] for a in answers if a["result"] == 0 and not a["messages"]]
+        self.assertEqual(silent, ["Moonlight sonata : for piano, op. 27, no. 2"])
+
+    def test_lines(self):
+        first, second = self.answers(
+            "--lines", stdin=b"cm\n001  one\n24500$aSyrinx\n650 0$aFlute music.\n\n\njm\n650 0$aDuets")
+        self.assertEqual((first["control_number"], first["title"]), ("one", "Syrinx"))
+        self.assertEqual(first["fields"][0]["subfields"][0], ["a", "flute"])
+        self.assertEqual((second["title"], second["fields"]), ("", []))
+
+    def test_any_octets_make_valid_json(self):
+        every = bytes(octet for octet in range(256) if octet not in (29, 30, 31))
+        answer, = self.answers(stdin=image(
+            ("001", every), ("245", b"00\x1fa" + every), ("382", b"01\x1fa" + every),
+            ("650", b" 0\x1fa" + every), ("650", b" 0\x1faFlute music" + every),
+            ("650", b" 0\x1faFlute music.")))
+        self.assertIn("\ufffd", answer["control_number"])
+        self.assertIn(["a", "flute"], answer["fields"][0]["subfields"])
+
+    # --- Inputs that fail ----------------------------------------------------------
+
+    def test_goes_on_behind_what_cannot_be_read(self):
+        path = self.file("bad.mrc", FLUTE + FLUTE[:70] + FLUTE)
+        answers = self.answers(path, status=1, said=[
+            f"{path}: record 2 at offset {len(FLUTE)}: ",
+            "Record length in leader does not match actual record length"])
+        self.assertEqual([a["record"] for a in answers], [1, 3])
+
+    def test_repairs_a_leader_that_lost_blanks(self):
+        answer, = self.answers(stdin=FLUTE.replace(b"i 4500", b"i4500", 1))
+        self.assertEqual(answer["control_number"], "flute")
+
+    def test_first_line_too_short(self):
+        answer, = self.answers("--lines", status=1, said=["-: record 1 at offset 0: "],
+                               stdin=b"c\n650 0$aFlute music\n\ncm\n650 0$aFlute music\n")
+        self.assertEqual(answer["record"], 2)
+
+    def test_files_that_cannot_be_read_do_not_stop_the_others(self):
+        good = self.file("good.mrc", FLUTE)
+        for bad, why in ((self.folder / "none.mrc", "No such file"), (self.folder, "directory")):
+            answers = self.answers(bad, good, status=3, said=[str(bad), why])
+            self.assertEqual(len(answers), 1)
+
+    def test_empty_input_is_no_fault(self):
+        self.assertEqual(self.answers(self.file("empty.mrc", b"")), [])
+        self.assertEqual(self.answers(stdin=b""), [])
+
+    # --- Wrong calls and failed writing ----------------------------------------------
+
+    def test_wrong_calls(self):
+        for call in ([], ["convert", "--mode", "383"], ["convert", "--frob"], ["heading"],
+                     ["convert", "--format", "xml"], ["transmute"]):
+            self.check(run(*call), 2, "cantorel: ")
+        self.check(run("--help"), 0)
+
+    def test_configuration_that_will_not_do(self):
+        half = self.folder / "half"
+        half.mkdir()
+        shutil.copy(CONFIG / "MusicMedium.Lcmpt.txt", half)
+        for folder, why in ((self.folder / "none", "is not there"), (SAMPLE, "is not there"),
+                            (self.folder, "has no MusicMedium.Lcmpt.txt"),
+                            (half, "has no usable Music6xxTo655.txt")):
+            self.check(run("convert", "--config", folder, SAMPLE), 2, str(folder), why)
+
+    def test_configuration_folder_may_have_any_name(self):
+        shutil.copytree(CONFIG, self.folder / "me")
+        done = run("heading", "--config", "me", "Flute music", cwd=self.folder)
+        self.check(done, 0)
+        self.assertIn(b"$a flute", done.stdout)
+
+    def test_output_that_takes_no_more(self):
+        many = self.file("many.mrc", FLUTE * 2000)
+        with open("/dev/full", "wb") as full:
+            self.check(run("convert", many, stdout=full), 3, "cannot write to standard output")
+        script = '"$0" convert "$1" | head -c 1 >/dev/null; exit ${PIPESTATUS[0]}'
+        done = subprocess.run(["bash", "-c", script, COMMAND, many], stderr=subprocess.PIPE)
+        self.check(done, 3, "cannot write to standard output")
+        done = subprocess.run(["bash", "-c", '"$0" convert "$1" >&-', COMMAND, many],
+                              stderr=subprocess.PIPE)
+        self.check(done, 3, "cannot write to standard output")
+
+
+if __name__ == "__main__":
+    unittest.main()
