@@ -7,7 +7,7 @@ set(config_folder ${CMAKE_INSTALL_DATADIR}/cantorel/config)
 
 install(TARGETS cantorel EXPORT cantorelTargets)
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cantorel
-        FILES_MATCHING PATTERN "*.h")
+        FILES_MATCHING PATTERN "*.h" PATTERN "*.inc")
 install(DIRECTORY config/ DESTINATION ${config_folder} PATTERN "sources" EXCLUDE)
 install(EXPORT cantorelTargets NAMESPACE cantorel:: DESTINATION ${package_folder})
 
