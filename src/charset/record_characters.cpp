@@ -1,8 +1,12 @@
 // What a record answers about characters and scripts.
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "charset/octet_category.h"
+#include "charset/octet_text.h"
 #include "charset/script_ranges.h"
 #include "charset/special_letters.h"
 #include "charset/unicode_category.h"
@@ -13,12 +17,8 @@ namespace cantorel {
 
 namespace {
 
-bool IsAsciiLetter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 bool IsLetterOf8BitSet(char c) {
-  return IsAsciiLetter(c) || kSpecialUpper.find(c) != std::string_view::npos ||
+  return IsAsciiUpper(c) || IsAsciiLower(c) || kSpecialUpper.find(c) != std::string_view::npos ||
          kSpecialLower.find(c) != std::string_view::npos;
 }
 

@@ -1,7 +1,10 @@
 // Conversions of Utf8CharClass between UTF-8, UCS and hexadecimal digits.
 
 #include <algorithm>
+#include <cstddef>
+#include <initializer_list>
 
+#include "charset/octet_text.h"
 #include "charset/utf8.h"
 #include "charset/utf8_char_class.h"
 #include "charset/utf8_code_point.h"
@@ -65,10 +68,6 @@ unsigned HexPairValue(std::string_view digits) {
   return HexDigitValue(digits[0]) << 4 | HexDigitValue(digits[1]);
 }
 
-char UpperAscii(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 }  // namespace
 
 std::int64_t Utf8CharClass::Utf8Asc(std::string_view octets) {
@@ -103,7 +102,7 @@ std::string Utf8CharClass::UcsHex2Utf8(std::string_view digits) {
   // No more than eight digits are ever looked at.
   char upper[8] = {};
   std::transform(digits.begin(), digits.begin() + std::min<std::size_t>(digits.size(), 8), upper,
-                 UpperAscii);
+                 AsciiUpper);
   const auto pair = [&upper](std::size_t first, std::size_t count) {
     return HexPairValue(std::string_view(upper + first, count));
   };

@@ -2,6 +2,9 @@
 
 #include "charset/utf8_char_class.h"
 
+#include <cstddef>
+
+#include "charset/octet_text.h"
 #include "charset/utf8.h"
 
 namespace cantorel {
@@ -82,9 +85,8 @@ std::int16_t Utf8CharClass::Utf8CharOctets(std::string_view text) const {
 }
 
 void Utf8CharClass::NormalizationScheme(std::string_view scheme) {
-  const std::size_t first = scheme.find_first_not_of(' ');
-  const char letter = first == std::string_view::npos ? '\0' : scheme[first];
-  normalization_scheme_ = letter == 'P' || letter == 'p' ? 'P' : 'V';
+  scheme = TrimLeft(scheme);
+  normalization_scheme_ = !scheme.empty() && AsciiUpper(scheme[0]) == 'P' ? 'P' : 'V';
 }
 
 }  // namespace cantorel

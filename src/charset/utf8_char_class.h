@@ -161,7 +161,7 @@ class Utf8CharClass {
   }
 #define NAMED_CHARACTER_BY_SET(name, marc8, octet_in_v, code_point) \
   std::string Marc8##name(std::string_view set) const {             \
-    return set == "V" ? octet_in_v : marc8;                         \
+    return set == "V" ? (octet_in_v) : (marc8);                     \
   }                                                                 \
   std::string Utf8##name() const {                                  \
     return UcsNumericToUtf8(code_point);                            \

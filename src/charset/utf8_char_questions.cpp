@@ -1,6 +1,7 @@
 // What Utf8CharClass answers about its current character.
 
 #include <algorithm>
+#include <iterator>
 
 #include "charset/marc8_category.h"
 #include "charset/unicode_case.h"
