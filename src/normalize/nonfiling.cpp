@@ -128,7 +128,7 @@ bool MayHaveNonfilingPart(std::string_view format, std::string_view tag,
          text.find(markers.end) != std::string_view::npos;
 }
 
-// Zones do not reach over a delimiter, so that each subfield stands for itself.
+// Zones do not reach over a delimiter, so each subfield is treated by itself.
 void Utf8MarcRecordClass::RemoveNonfilingZone(std::string& text, bool& found) const {
   found = false;
   const NonfilingMarkers markers = NonfilingMarkersOf(Utf8());
@@ -155,6 +155,8 @@ void Utf8MarcRecordClass::RemoveNonfilingZone(std::string& text, bool& found) co
     found = found || remover.ZoneFound() || (remover.StrayEndFound() && !delimited);
     i = end;
   }
+  // Behind a delimiter and code that open the text, as a rule; position 3 counts
+  // whatever stands ahead of it.
   const bool opens_text =
       HoldsAt(all, 0, markers.begin) || (all.size() > 2 && HoldsAt(all, 2, markers.begin));
   text = opens_text ? UCaseFirstWord(out) : out;

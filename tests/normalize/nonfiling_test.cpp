@@ -41,13 +41,14 @@ TEST(NonfilingZone, GoesWithItsMarkers) {
       {"$a<the >sea", "$aSea", true},
       {"$aBy <the >sea", "$aBy sea", true},
       {"$a<the >sea$b<a >storm", "$aSea$bstorm", true},
-      {"a <b> c <d> e", "a  c  e", true},
-      {"a <b <c> d> e", "a  e", true},
+      {"by <b> c <d> e", "by  c  e", true},
+      {"by <b <c> d> e", "by  e", true},
+      {"a <b>c", "A c", true},  // a marker at position 3, whatever is before it
       // Without an end the zone reaches to the end of the subfield.
       {"$aBy <the sea", "$aBy ", true},
       {"$aBy <the$bsea", "$aBy $bsea", true},
       {"<<", "", true},
-      {"x<<a>b", "x", true},
+      {"by<<a>b", "By", true},
       // A second end for one begin stays.
       {"x<a>b>c", "xb>c", true},
       // An end without a begin takes what is before it in its subfield, and
