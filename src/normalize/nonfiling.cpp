@@ -38,7 +38,12 @@ std::string_view NonfilingEntries(std::string_view format) {
 }
 
 bool HoldsAt(std::string_view text, std::size_t position, std::string_view sought) {
-  return text.substr(position, sought.size()) == sought;
+  return From(text, position).substr(0, sought.size()) == sought;
+}
+
+bool HoldsAny(std::string_view text, const NonfilingMarkers& markers) {
+  return text.find(markers.begin) != std::string_view::npos ||
+         text.find(markers.end) != std::string_view::npos;
 }
 
 // Takes the zones out of one subfield text, from left to right.
@@ -123,19 +128,14 @@ std::size_t NonfilingCount(std::string_view indicators, std::size_t indicator) {
 bool MayHaveNonfilingPart(std::string_view format, std::string_view tag,
                           std::string_view indicators, std::string_view text, bool utf8) {
   if (NonfilingCount(indicators, NonfilingIndicator(format, tag)) > 0) return true;
-  const NonfilingMarkers markers = NonfilingMarkersOf(utf8);
-  return text.find(markers.begin) != std::string_view::npos ||
-         text.find(markers.end) != std::string_view::npos;
+  return HoldsAny(text, NonfilingMarkersOf(utf8));
 }
 
 // Zones do not reach over a delimiter, so each subfield is treated by itself.
 void Utf8MarcRecordClass::RemoveNonfilingZone(std::string& text, bool& found) const {
   found = false;
   const NonfilingMarkers markers = NonfilingMarkersOf(Utf8());
-  if (text.find(markers.begin) == std::string::npos &&
-      text.find(markers.end) == std::string::npos) {
-    return;
-  }
+  if (!HoldsAny(text, markers)) return;
   const std::string_view all = text;
   std::string out;
   for (std::size_t i = 0; i < all.size();) {
@@ -157,8 +157,7 @@ void Utf8MarcRecordClass::RemoveNonfilingZone(std::string& text, bool& found) co
   }
   // Behind a delimiter and code that open the text, as a rule; position 3 counts
   // whatever stands ahead of it.
-  const bool opens_text =
-      HoldsAt(all, 0, markers.begin) || (all.size() > 2 && HoldsAt(all, 2, markers.begin));
+  const bool opens_text = HoldsAt(all, 0, markers.begin) || HoldsAt(all, 2, markers.begin);
   text = opens_text ? UCaseFirstWord(out) : out;
 }
 
