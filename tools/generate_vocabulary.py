@@ -3,7 +3,8 @@
 
     tools/generate_vocabulary.py
 
-Sources, all of them tab-separated text:
+Sources, all of them tab-separated text, in which accents are characters of
+their own (Unicode form D):
     lcmpt.tsv                  the preferred terms of the thesaurus, with the
                                terms above them
     lcmpt-variants.tsv         its variant terms
@@ -56,7 +57,7 @@ def decompose(text):
 
 def comparison_form(text):
     out = []
-    for c in decompose(text):
+    for c in text:
         if c.isascii() and c.isalnum():
             out.append(c.upper())
         elif c in LETTERS:
@@ -71,7 +72,7 @@ def comparison_form(text):
 
 
 def read_table(name):
-    lines = (SOURCES / name).read_text(encoding="utf-8").splitlines()
+    lines = decompose((SOURCES / name).read_text(encoding="utf-8")).splitlines()
     lines = [line for line in lines if line and not line.startswith("#")]
     rows = list(csv.DictReader(lines, delimiter="\t", quoting=csv.QUOTE_NONE, strict=True))
     for row in rows:
@@ -170,7 +171,7 @@ def main():
             out.write(f"\n[{section}]\n")
             for form, term in sorted(vocabulary.items()):
                 if term in wanted and form not in hidden:
-                    out.write(f"{form.replace(' ', '_')}={decompose(term)}\n")
+                    out.write(f"{form.replace(' ', '_')}={term}\n")
 
 
 if __name__ == "__main__":

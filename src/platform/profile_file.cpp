@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 #include <mutex>
-#include <shared_mutex>
 #include <unordered_map>
 #include <utility>
 
@@ -26,65 +25,76 @@ std::string_view CutToLength(std::string_view text, std::int32_t length) {
   return text.substr(0, static_cast<std::size_t>(std::max(length, std::int32_t{0})));
 }
 
-// The files read so far.  One for the process: an index is only read, so that
-// any number of threads may look up at once; reading a file anew shuts them out
-// for that moment.
+// The text of a profile file; empty when there is none.
+std::string ReadProfile(const std::string& native_path, const FileStamp& stamp) {
+  std::string text;
+  if (stamp.size <= kLargestProfile) ReadWholeFile(native_path, text);
+  return text;
+}
+
+// The files read so far, one set for the process.  What has been read never
+// changes: a look-up takes hold of it under a short lock and then works alone,
+// and a changed file is read into a new one.
 class ProfileCache {
  public:
   // Calls `use` with the index of the file in its present state.
   template <typename Use>
   void With(std::string_view file, Use use) {
-    {
-      const std::shared_lock lock(mutex_);
-      if (const ReadFile* known = FindCurrent(file)) return use(*known->index);
-    }
-    const std::unique_lock lock(mutex_);
-    const ReadFile* known = FindCurrent(file);  // another thread may have been faster
-    use(known != nullptr ? *known->index : *Read(file).index);
+    std::shared_ptr<const ReadFile> known = Find(file);
+    if (known == nullptr || !known->IsCurrent()) known = ReadAnew(file);
+    use(known->index);
   }
 
   // Calls `change`, during which no thread reads a file, and forgets the file.
   template <typename Change>
   bool Changing(std::string_view file, Change change) {
-    const std::unique_lock lock(mutex_);
+    const std::lock_guard reading(reading_mutex_);
     const bool done = change();
+    const std::lock_guard lock(files_mutex_);
     files_.erase(std::string(file));
     return done;
   }
 
  private:
   struct ReadFile {
+    explicit ReadFile(std::string_view file)
+        : native_path(NativePath(file)),
+          stamp(StampOf(native_path)),
+          stamp_may_repeat(StampMayRepeat(stamp)),
+          index(ReadProfile(native_path, stamp)) {}
+
+    // The stamp comes first: a change while the file is read is seen next time.
     std::string native_path;
     FileStamp stamp;
-    bool stamp_may_repeat = false;
-    std::unique_ptr<const ProfileIndex> index;
+    bool stamp_may_repeat;
+    ProfileIndex index;
+
+    bool IsCurrent() const { return !stamp_may_repeat && StampOf(native_path) == stamp; }
   };
   struct Hash : std::hash<std::string_view> {
     using is_transparent = void;
   };
 
-  const ReadFile* FindCurrent(std::string_view file) const {
+  std::shared_ptr<const ReadFile> Find(std::string_view file) {
+    const std::lock_guard lock(files_mutex_);
     const auto place = files_.find(file);
-    if (place == files_.end()) return nullptr;
-    const ReadFile& known = place->second;
-    const bool current = !known.stamp_may_repeat && StampOf(known.native_path) == known.stamp;
-    return current ? &known : nullptr;
+    return place == files_.end() ? nullptr : place->second;
   }
 
-  const ReadFile& Read(std::string_view file) {
-    ReadFile& read = files_[std::string(file)];
-    read.native_path = NativePath(file);
-    // The stamp comes first: a change while the file is read is seen next time.
-    read.stamp = StampOf(read.native_path);
-    read.stamp_may_repeat = StampMayRepeat(read.stamp);
-    std::string text;
-    if (read.stamp.size <= kLargestProfile) ReadWholeFile(file, text);
-    read.index = std::make_unique<const ProfileIndex>(std::move(text));
-    return read;
+  std::shared_ptr<const ReadFile> ReadAnew(std::string_view file) {
+    const std::lock_guard reading(reading_mutex_);
+    std::shared_ptr<const ReadFile> known = Find(file);  // another thread may have been faster
+    if (known != nullptr && known->IsCurrent()) return known;
+
+    known = std::make_shared<const ReadFile>(file);
+    const std::lock_guard lock(files_mutex_);
+    files_.insert_or_assign(std::string(file), known);
+    return known;
   }
 
-  std::shared_mutex mutex_;
-  std::unordered_map<std::string, ReadFile, Hash, std::equal_to<>> files_;
+  std::mutex reading_mutex_;  // taken before files_mutex_
+  std::mutex files_mutex_;
+  std::unordered_map<std::string, std::shared_ptr<const ReadFile>, Hash, std::equal_to<>> files_;
 };
 
 // Never freed: a thread may still look up while the process ends.
