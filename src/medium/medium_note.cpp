@@ -19,7 +19,8 @@ void SetCommaBeforeHands(std::string& note) {
   if (hands == std::string::npos || hands == 0) return;
   const std::size_t blank = note.rfind(' ', hands - 1);
   if (blank == std::string::npos) return;
-  const std::string_view word = std::string_view(note).substr(blank + 1, hands - blank - 1);
+  const std::string_view text = note;
+  const std::string_view word = text.substr(blank + 1, hands - blank - 1);
   if (IsPositiveNumber(word)) note.insert(blank, 1, ',');
 }
 

@@ -86,7 +86,7 @@ void Music650To382Class::Convert650To382_Marc(Utf8MarcRecordClass& record, std::
 void Music650To382Class::NoteRecordId(Utf8MarcRecordClass& record) {
   const bool has_001 = record.FldFindFirst("001", {});
   session_.returned_001_text = has_001 ? record.FldText() : std::string();
-  record_id_ = has_001 ? std::string_view(session_.returned_001_text) : kNoRecordId;
+  record_id_ = has_001 ? session_.returned_001_text : std::string{kNoRecordId};
 }
 
 // The subject headings, and the titles when those gave nothing.

@@ -34,7 +34,7 @@ class StringMap {
   bool Add(std::string_view key, Item item) {
     if (Exists(key)) return false;
     entries_.emplace_back(std::string(key), std::move(item));
-    index_.emplace(std::string_view(entries_.back().first), entries_.size() - 1);
+    index_.emplace(entries_.back().first, entries_.size() - 1);
     return true;
   }
 
