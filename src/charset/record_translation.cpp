@@ -23,15 +23,18 @@ std::string Utf8MarcRecordClass::DecomposeUnicodeCharactersInString(std::string_
 // Control fields 001 to 009 hold no text to decompose.
 void Utf8MarcRecordClass::DecomposeAllFields() {
   characters_decomposed_ = false;
+  const std::int16_t loaded = table_.Count();
   std::string text;
-  for (bool found = FldMoveFirst(true); found; found = FldMoveNext(true)) {
-    if (FldTagView() < "010") continue;
+  for (std::int16_t row = 0; row < loaded; ++row) {
+    const FieldRecord& field = table_.Field(row);
+    if (field.is_control || field.deleted) continue;
     text.clear();
-    AppendFldText(text);
+    AppendText(field, text);
     if (IsAscii(text)) continue;
     bool changed = false;
     const std::string decomposed = DecomposeUnicodeCharactersInString(text, changed);
     if (!changed) continue;
+    FldPointer(row);
     FldText(decomposed);
     characters_decomposed_ = true;
   }

@@ -27,12 +27,12 @@ constexpr bool MakesNacoFormDiffer(char c) {
 
 void Utf8MarcRecordClass::MakeNorms(const FieldRecord& field, SubfieldRecord& subfield) {
   const char set_in_force = std::exchange(character_set_out_, subfield.norm_set);
-  WriteNorms(field, subfield);
+  table_.KeepNorms(subfield, NormsOf(field, subfield));
   character_set_out_ = set_in_force;
-  subfield.has_norms = true;
 }
 
-void Utf8MarcRecordClass::WriteNorms(const FieldRecord& field, SubfieldRecord& subfield) {
+SubfieldNorms Utf8MarcRecordClass::NormsOf(const FieldRecord& field,
+                                           const SubfieldRecord& subfield) {
   const bool first_a = subfield.code == 'a' && subfield.norm_origin == NormOrigin::kFirst;
   std::string_view text = subfield.text;
   std::string filed;
@@ -47,9 +47,9 @@ void Utf8MarcRecordClass::WriteNorms(const FieldRecord& field, SubfieldRecord& s
 
   std::string norm;
   AppendTextNorm(text, true, character_set_out_, false, norm);
-  subfield.normalized_v = table_.Arena().Keep(norm);
-  subfield.normalized_p = subfield.normalized_v;
-  if (std::none_of(text.begin(), text.end(), MakesNacoFormDiffer)) return;
+  SubfieldNorms norms;
+  norms.v = norms.p = table_.Arena().Keep(norm);
+  if (std::none_of(text.begin(), text.end(), MakesNacoFormDiffer)) return norms;
 
   norm.clear();
   const std::string_view code(&subfield.code, 1);
@@ -59,13 +59,14 @@ void Utf8MarcRecordClass::WriteNorms(const FieldRecord& field, SubfieldRecord& s
     keeps.delimiter = true;
     AppendNacoNorm(text, true, character_set_out_, keeps, norm);
   }
-  subfield.normalized_p = table_.Arena().Keep(norm);
+  norms.p = table_.Arena().Keep(norm);
+  return norms;
 }
 
 void Utf8MarcRecordClass::SettleNorms(const FieldRecord& field) {
   for (std::int16_t row = 0; row <= field.subfield_max; ++row) {
     SubfieldRecord& subfield = table_.Subfield(field, row);
-    if (!subfield.has_norms) MakeNorms(field, subfield);
+    if (subfield.norms == SubfieldRecord::kNoNorms) MakeNorms(field, subfield);
   }
 }
 
@@ -76,15 +77,15 @@ void Utf8MarcRecordClass::SettleNorms() {
 std::string_view Utf8MarcRecordClass::SfdNormView() {
   if (!HasSubfield()) return {};
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), current_subfield_);
-  if (!subfield.has_norms) MakeNorms(CurrentField(), subfield);
-  return subfield.normalized_v;
+  if (subfield.norms == SubfieldRecord::kNoNorms) MakeNorms(CurrentField(), subfield);
+  return table_.Norms(subfield).v;
 }
 
 std::string_view Utf8MarcRecordClass::SfdNormNacoView() {
   if (!HasSubfield()) return {};
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), current_subfield_);
-  if (!subfield.has_norms) MakeNorms(CurrentField(), subfield);
-  return subfield.normalized_p;
+  if (subfield.norms == SubfieldRecord::kNoNorms) MakeNorms(CurrentField(), subfield);
+  return table_.Norms(subfield).p;
 }
 
 }  // namespace cantorel

@@ -221,6 +221,10 @@ std::string Utf8MarcRecordClass::FldInd2() const {
 }
 
 void Utf8MarcRecordClass::AppendText(const FieldRecord& field, std::string& out) const {
+  if (!field.whole_text.empty()) {
+    out += field.whole_text;
+    return;
+  }
   for (std::int16_t row = field.first_subfield; row != kNoRow;) {
     const SubfieldRecord& subfield = table_.Subfield(field, row);
     if (field.is_control) {

@@ -25,8 +25,19 @@ bool IsControlTag(std::string_view tag) {
   return tag.substr(0, 2) == "00";
 }
 
+// Tags 000 to 010.
+bool IsNumberTag(const char* tag) {
+  return tag[0] == '0' && (tag[1] == '0' || (tag[1] == '1' && tag[2] == '0'));
+}
+
 bool IsIndicator(char c) {
   return IsAsciiDigit(c) || c == ' ';
+}
+
+// True when a row holds just what was given for it, the very same octets.
+bool IsAsGiven(const SubfieldRecord& subfield, char code, std::string_view text) {
+  return subfield.code == code && subfield.text.data() == text.data() &&
+         subfield.text.size() == text.size();
 }
 
 // Where the $6 of a field text begins, npos without one.
@@ -34,14 +45,6 @@ std::size_t FindSubfield6(std::string_view text) {
   return text.find(
       "\x1F"
       "6");
-}
-
-// True for an 880 that was given under the tag it stands for: its $6 names the
-// tag itself.
-bool Is880InDisguise(std::string_view tag, std::string_view text) {
-  if (tag == "880") return false;
-  const std::size_t place = FindSubfield6(text);
-  return place != std::string_view::npos && text.substr(place + 2, 3) == tag;
 }
 
 std::string_view WithoutOpeningCode(std::string_view text) {
@@ -79,6 +82,7 @@ void Utf8MarcRecordClass::FldAddGeneric(std::string_view tag, std::string_view i
 
 bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indicators,
                                    std::string_view text, bool at_top) {
+  FindDelimiters(text);
   if (Is880InDisguise(tag, text)) tag = "880";
   if (tag == "008" && field_008_ != kNoRow) {
     Change008Value(0, text);
@@ -87,10 +91,9 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
   if (!IsFieldTag(tag) || table_.Full()) return false;
 
   const OrderKey key = MakeFieldOrderKey(tag, indicators, text);
-  const bool is_control = IsControlTag(tag);
   IndicatorPair pair(indicators);
   if (force_invalid_indicator_values_) pair.BlankInvalid();
-  text = is_control ? ControlFieldText(tag, text, true) : DataFieldText(text);
+  text = IsControlTag(tag) ? ControlFieldText(tag, text, true) : DataFieldText(text);
 
   const std::int16_t row = AppendFieldRow(tag, pair.View(), key);
   if (table_.Count() == 1) {
@@ -101,6 +104,25 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
   }
   if (!text.empty()) ParseFieldText(row, text);
   return true;
+}
+
+// Finds the delimiters of a field text once for all that ask about them.
+void Utf8MarcRecordClass::FindDelimiters(std::string_view text) {
+  delimiters_.clear();
+  for (std::size_t i = text.find(kDelimiter); i != std::string_view::npos;
+       i = text.find(kDelimiter, i + 1)) {
+    delimiters_.push_back(static_cast<std::uint32_t>(i));
+  }
+}
+
+// True for an 880 that was given under the tag it stands for: its $6 names the
+// tag itself.
+bool Utf8MarcRecordClass::Is880InDisguise(std::string_view tag, std::string_view text) const {
+  if (tag == "880") return false;
+  for (const std::uint32_t place : delimiters_) {
+    if (place + 1 < text.size() && text[place + 1] == '6') return text.substr(place + 2, 3) == tag;
+  }
+  return false;
 }
 
 std::int16_t Utf8MarcRecordClass::AppendFieldRow(std::string_view tag, std::string_view indicators,
@@ -145,37 +167,45 @@ std::string_view Utf8MarcRecordClass::DataFieldText(std::string_view text) {
   whole[0] = kDelimiter;
   whole[1] = 'a';
   std::copy(text.begin(), text.end(), whole + 2);
-  return {whole, text.size() + 2};
+  text = {whole, text.size() + 2};
+  FindDelimiters(text);
+  return text;
 }
 
+// Takes a text apart into the subfields of a row; FindDelimiters has been
+// through it.
 void Utf8MarcRecordClass::ParseFieldText(std::int16_t row, std::string_view text) {
   FieldRecord& field = table_.Field(row);
   field.first_subfield = field.last_subfield = kNoRow;
   field.subfield_max = kNoRow;
+  field.whole_text = {};
   current_field_ = row;
   current_subfield_ = kNoRow;
-  parsing_ = true;
   if (field.is_control) {
-    AddSubfield(field, '\0', text);
-  } else {
-    ParseSubfields(field, text);
+    AddFirstSubfield(field, '\0', text);
+    return;
   }
+  parsing_ = true;
+  ParseSubfields(field, text);
   parsing_ = false;
 }
 
 void Utf8MarcRecordClass::ParseSubfields(FieldRecord& field, std::string_view text) {
   // A blank is part of the text in the number fields up to 010.
-  const bool trim = field.Tag() > "010";
-  for (std::size_t start = text.find(kDelimiter); start != std::string_view::npos;) {
-    const std::size_t end = text.find(kDelimiter, start + 1);
-    const std::string_view piece =
-        text.substr(start + 1, end == std::string_view::npos ? end : end - start - 1);
-    const char code = piece.empty() ? ' ' : piece[0];
-    std::string_view content = From(piece, 1);
-    if (trim) content = Trim(content);
-    AddSubfield(field, code, content);
-    start = end;
+  const bool trim = !IsNumberTag(field.tag);
+  bool as_given = !delimiters_.empty() && delimiters_[0] == 0;
+  for (std::size_t i = 0; i < delimiters_.size(); ++i) {
+    const std::size_t start = delimiters_[i] + 1;
+    const std::size_t end = i + 1 < delimiters_.size() ? delimiters_[i + 1] : text.size();
+    const char code = start < end ? text[start] : ' ';
+    const std::string_view given =
+        text.substr(std::min(start + 1, end), end - std::min(start + 1, end));
+    const std::int16_t rows = field.subfield_max;
+    AddSubfield(field, code, trim ? Trim(given) : given);
+    as_given = as_given && field.subfield_max > rows && field.last_subfield == field.subfield_max &&
+               IsAsGiven(table_.Subfield(field, field.last_subfield), code, given);
   }
+  if (as_given) field.whole_text = text;
 }
 
 // --- Rebuilding --------------------------------------------------------------
@@ -215,6 +245,7 @@ void Utf8MarcRecordClass::RebuildField(std::string_view tag, std::string_view in
     field.link_key = key.link;
     SetTagAndIndicators(field, new_tag, new_indicators);
     if (new_tag == "008") field_008_ = row;
+    FindDelimiters(text);
     ParseFieldText(row, text);
   } else {
     FldDelete();
@@ -297,7 +328,7 @@ void Utf8MarcRecordClass::FldText(std::string_view text) {
     subfield.deleted = true;
     row = subfield.next;
   }
-  field.changed = true;
+  MarkChanged(field);
 }
 
 // --- Marks -------------------------------------------------------------------
@@ -348,6 +379,7 @@ void Utf8MarcRecordClass::InsertBeside(std::string_view tag, std::string_view in
   } else {
     LinkBefore(row, here);
   }
+  FindDelimiters(content);
   if (!content.empty()) ParseFieldText(row, content);
 }
 

@@ -28,6 +28,8 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   return {kAnyPlace, {}};
 }
 
-bool Utf8MarcRecordClass::PairingIsOn() const { return false; }
+bool Utf8MarcRecordClass::PairingIsOn() const {
+  return false;
+}
 
 }  // namespace cantorel

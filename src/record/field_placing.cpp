@@ -18,6 +18,7 @@ void Utf8MarcRecordClass::Unlink(std::int16_t row) {
 }
 
 void Utf8MarcRecordClass::LinkAfter(std::int16_t row, std::int16_t prev) {
+  if (prev != last_field_) chain_moved_ = true;
   FieldRecord& field = table_.Field(row);
   field.prev = prev;
   field.next = table_.Field(prev).next;
@@ -26,6 +27,7 @@ void Utf8MarcRecordClass::LinkAfter(std::int16_t row, std::int16_t prev) {
 }
 
 void Utf8MarcRecordClass::LinkBefore(std::int16_t row, std::int16_t next) {
+  chain_moved_ = true;
   FieldRecord& field = table_.Field(row);
   field.next = next;
   field.prev = table_.Field(next).prev;
@@ -47,7 +49,8 @@ void Utf8MarcRecordClass::PlaceByKey(std::int16_t row, bool at_top) {
   const std::string_view key = table_.Field(row).order_key;
   // A record whose fields arrive in order, as most do, asks only its last field.
   const FieldRecord& last = table_.Field(table_.Field(row).prev);
-  if (!at_top && in_key_order_ && last.order_key <= key) return;
+  const bool same = last.order_key.data() == key.data();  // the one key of a record without order
+  if (!at_top && in_key_order_ && (same || last.order_key <= key)) return;
   for (std::int16_t other = first_field_; other != row; other = table_.Field(other).next) {
     const FieldRecord& candidate = table_.Field(other);
     if (candidate.deleted) continue;

@@ -44,46 +44,31 @@ void TextArena::Clear() {
 void FieldTable::Clear() {
   count_ = 0;
   pool_used_ = 0;
+  norms_.clear();
   arena_.Clear();
 }
 
-std::int16_t FieldTable::AppendField() {
-  const auto row = static_cast<std::size_t>(count_);
-  if (row == fields_.size()) {
-    fields_.emplace_back();
-  } else {
-    fields_[row] = FieldRecord();
-  }
-  fields_[row].first_row = static_cast<std::uint32_t>(pool_used_);
-  return count_++;
-}
-
-std::int16_t FieldTable::AppendSubfield(FieldRecord& field) {
-  if (field.subfield_max == kMaxRows - 1) return kNoRow;
+// Gives the field room for more subfield rows; false when it can have no more.
+// The field at the end of the pool grows where it is, as every field does while
+// a record is loaded; any other moves to the end with twice the room, so that
+// adding stays linear.
+bool FieldTable::Grow(FieldRecord& field) {
   const auto used = static_cast<std::size_t>(field.subfield_max + 1);
-  if (field.subfield_max + 1 >= field.subfield_capacity) Grow(field, used);
-  ++field.subfield_max;
-  pool_[field.first_row + used] = SubfieldRecord();
-  return field.subfield_max;
-}
-
-// Gives the field room for more subfield rows.  The field at the end of the
-// pool grows where it is, as every field does while a record is loaded; any
-// other moves to the end with twice the room, so that adding stays linear.
-void FieldTable::Grow(FieldRecord& field, std::size_t used) {
-  const bool at_end =
-      field.first_row + static_cast<std::size_t>(field.subfield_capacity) == pool_used_;
+  if (used >= static_cast<std::size_t>(kMaxRows)) return false;
+  const auto capacity = static_cast<std::size_t>(field.subfield_capacity);
+  const bool at_end = field.first_row + capacity == pool_used_;
   const std::size_t wanted = std::min<std::size_t>(
       std::max<std::size_t>(used + kSubfieldStep, at_end ? 0 : 2 * used), kMaxRows);
   const std::size_t start = at_end ? field.first_row : pool_used_;
   if (pool_.size() < start + wanted) pool_.resize(std::max(start + wanted, 2 * pool_.size()));
   if (!at_end) {
-    std::copy_n(pool_.begin() + field.first_row, used,
-                pool_.begin() + static_cast<std::ptrdiff_t>(start));
+    const auto from = pool_.begin() + field.first_row;
+    std::copy_n(from, used, pool_.begin() + static_cast<std::ptrdiff_t>(start));
   }
   field.first_row = static_cast<std::uint32_t>(start);
   field.subfield_capacity = static_cast<std::int16_t>(wanted);
   pool_used_ = start + wanted;
+  return true;
 }
 
 }  // namespace cantorel

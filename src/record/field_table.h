@@ -46,28 +46,32 @@ class TextArena {
 
 // Which rule gives a subfield its comparison forms: the first subfield of a
 // field loses its nonfiling part, a later one does not.
-enum class NormOrigin : std::uint8_t { kFirst, kInserted, kGiven };
+enum class NormOrigin : std::uint8_t { kFirst, kInserted };
+
+// The comparison forms of a subfield, made when first asked for.
+struct SubfieldNorms {
+  std::string_view v;  // plain
+  std::string_view p;  // NACO
+};
 
 struct SubfieldRecord {
-  std::string_view text;           // without delimiter and code
-  std::string_view normalized_v;   // comparison form; valid when has_norms
-  std::string_view normalized_p;   // NACO comparison form; valid when has_norms
-  std::string_view order_pattern;  // codes of the subfield-order rule
-  std::int16_t order_rule_index = 0;
-  std::int16_t order_rule_kind = 0;
+  std::string_view text;          // without delimiter and code
+  std::int32_t norms = kNoNorms;  // where its comparison forms are, once made
   std::int16_t next = kNoRow;
   std::int16_t prev = kNoRow;
   char code = '\0';     // '\0' for the one subfield of a control field
   char norm_set = 'U';  // the output set in force when it was added
   NormOrigin norm_origin = NormOrigin::kFirst;
-  bool has_norms = false;
   bool deleted = false;
   bool boolean1 = false;
   bool boolean2 = false;
+
+  static constexpr std::int32_t kNoNorms = -1;
 };
 
 struct FieldRecord {
   std::string_view directory_entry;  // the 12 characters it was loaded from
+  std::string_view whole_text;       // the field text while no subfield differs from it
   std::string_view order_key;
   std::string_view link_key;
   std::uint32_t first_row = 0;  // where its subfield rows begin in the pool
@@ -112,22 +116,46 @@ class FieldTable {
   }
 
   // Appends an empty field row and gives its index.  Not to be called when Full().
-  std::int16_t AppendField();
+  std::int16_t AppendField() {
+    const auto row = static_cast<std::size_t>(count_);
+    if (row == fields_.size()) {
+      fields_.emplace_back();
+    } else {
+      std::construct_at(&fields_[row]);  // in place: copying a blank row costs more
+    }
+    fields_[row].first_row = static_cast<std::uint32_t>(pool_used_);
+    return count_++;
+  }
 
   // Takes the last field row off again.
   void RemoveLastField() { --count_; }
 
   // Gives the field one more subfield row, cleared, and returns its index, or
   // kNoRow when the field can hold no more.  References into the pool go stale.
-  std::int16_t AppendSubfield(FieldRecord& field);
+  std::int16_t AppendSubfield(FieldRecord& field) {
+    if (field.subfield_max + 1 >= field.subfield_capacity && !Grow(field)) return kNoRow;
+    ++field.subfield_max;
+    std::construct_at(&Subfield(field, field.subfield_max));
+    return field.subfield_max;
+  }
+
+  // The comparison forms of a subfield row that has some.
+  const SubfieldNorms& Norms(const SubfieldRecord& subfield) const {
+    return norms_[static_cast<std::size_t>(subfield.norms)];
+  }
+  void KeepNorms(SubfieldRecord& subfield, SubfieldNorms norms) {
+    subfield.norms = static_cast<std::int32_t>(norms_.size());
+    norms_.push_back(norms);
+  }
 
   TextArena& Arena() { return arena_; }
 
  private:
-  void Grow(FieldRecord& field, std::size_t used);
+  bool Grow(FieldRecord& field);
 
   std::vector<FieldRecord> fields_;
   std::vector<SubfieldRecord> pool_;
+  std::vector<SubfieldNorms> norms_;
   std::size_t pool_used_ = 0;
   std::int16_t count_ = 0;
   TextArena arena_;

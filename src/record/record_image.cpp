@@ -1,6 +1,7 @@
 #include "record/record_image.h"
 
 #include <algorithm>
+#include <array>
 
 #include "charset/marc_control.h"
 #include "charset/octet_text.h"
@@ -12,9 +13,24 @@ namespace {
 constexpr std::size_t kShortestRecord = 50;
 constexpr std::size_t kEntryMapPosition = 20;  // from 0
 
+// "00" to "99".
+constexpr std::array<char, 200> kDigitPairs = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
 // Digits of fixed width; the value of those that lead.
 std::int32_t Number(std::string_view image, std::size_t position, std::size_t width) {
-  return LeadingNumber(image.substr(position, width));
+  std::int32_t value = 0;
+  for (std::size_t i = position; i < position + width; ++i) {
+    if (!IsAsciiDigit(image[i])) return LeadingNumber(image.substr(position, width));
+    value = value * 10 + (image[i] - '0');
+  }
+  return value;
 }
 
 }  // namespace
@@ -65,17 +81,13 @@ DirectoryEntry ReadDirectoryEntry(std::string_view directory, std::size_t positi
   return entry;
 }
 
-void AppendDigits(std::size_t number, std::size_t width, std::string& out) {
-  out.resize(out.size() + width);
-  OverwriteDigits(number, width, out.size() - width, out);
-}
-
-void OverwriteDigits(std::size_t number, std::size_t width, std::size_t position,
-                     std::string& out) {
-  for (std::size_t i = position + width; i-- > position;) {
-    out[i] = static_cast<char>('0' + number % 10);
-    number /= 10;
+void WriteDigits(std::size_t number, std::size_t width, char* place) {
+  auto rest = static_cast<std::uint32_t>(number);
+  for (; width >= 2; width -= 2) {
+    std::copy_n(&kDigitPairs[2 * (rest % 100)], 2, place + width - 2);
+    rest /= 100;
   }
+  if (width == 1) *place = static_cast<char>('0' + rest % 10);
 }
 
 }  // namespace cantorel

@@ -47,11 +47,9 @@ struct DirectoryEntry {
 DirectoryEntry ReadDirectoryEntry(std::string_view directory, std::size_t position,
                                   std::string_view data);
 
-// Appends `number` as `width` digits; of a larger number the high digits are
-// lost, as the structure has no room for them.
-void AppendDigits(std::size_t number, std::size_t width, std::string& out);
-// The same over what stands at `position` (from 0).
-void OverwriteDigits(std::size_t number, std::size_t width, std::size_t position, std::string& out);
+// Writes `number` as `width` digits at `place`; of a larger number the high
+// digits are lost, as the structure has no room for them.
+void WriteDigits(std::size_t number, std::size_t width, char* place);
 
 }  // namespace cantorel
 

@@ -46,7 +46,8 @@ void Utf8MarcRecordClass::Empty() {
   first_field_ = last_field_ = field_008_ = kNoRow;
   current_field_ = current_subfield_ = kNoRow;
   field_found_ = subfield_found_ = false;
-  is_authority_ = modified_ = new_record_ = false;
+  is_authority_ = modified_ = new_record_ = chain_moved_ = false;
+  in_key_order_ = true;
   fields_out_of_order_ = subfields_out_of_order_ = false;
   field_order_changed_ = subfield_order_changed_ = false;
   fields_with_subfields_out_of_order_.clear();
@@ -72,7 +73,9 @@ void Utf8MarcRecordClass::MarcRecordIn(std::string_view image) {
   character_encoding_scheme_.assign(1, leader_[9]);
   SetFormatCode({});
   LoadInCharacterSet(DecideCharacterSet());
-  CheckLoadOrder();
+  // A record whose fields or subfields were not in the expected order says at
+  // once that it is changed.
+  modified_ = modified_ || chain_moved_;
   FldMoveFirst(true);
   FldChangedClearAll();
 }
@@ -132,17 +135,6 @@ bool Utf8MarcRecordClass::LoadField(std::string_view tag, std::string_view text,
   return AddField(tag, {}, text, false);
 }
 
-void Utf8MarcRecordClass::CheckLoadOrder() {
-  for (std::int16_t row = 0; row < table_.Count() && !modified_; ++row) {
-    const FieldRecord& field = table_.Field(row);
-    if (field.next != kNoRow && field.next != row + 1) modified_ = true;
-    for (std::int16_t s = 0; s <= field.subfield_max; ++s) {
-      const std::int16_t next = table_.Subfield(field, s).next;
-      if (next != kNoRow && next != s + 1) modified_ = true;
-    }
-  }
-}
-
 std::string Utf8MarcRecordClass::MarcRecordOut() {
   std::string image;
   MarcRecordOut(image);
@@ -150,35 +142,80 @@ std::string Utf8MarcRecordClass::MarcRecordOut() {
 }
 
 void Utf8MarcRecordClass::MarcRecordOut(std::string& image) {
-  image.clear();
-  if (table_.Count() < 1 || first_field_ == kNoRow) return;
+  if (table_.Count() < 1 || first_field_ == kNoRow) return image.clear();
   BeforeRecordOut();
   if (leader_.compare(22, 2, "00") != 0) leader_.replace(22, std::string::npos, "00");
 
-  out_data_.clear();
-  image = leader_;
+  std::size_t fields = 0;
+  std::size_t data_length = 0;
+  for (std::int16_t row = first_field_; row != kNoRow; row = table_.Field(row).next) {
+    const std::size_t body = BodyLength(table_.Field(row));
+    fields += body > 0 ? 1 : 0;
+    data_length += body;
+  }
+  const std::size_t base = kLeaderLength + kDirectoryEntryLength * fields + 1;
+  image.resize(base + data_length + 1);
+  char* const start = image.data();
+  std::copy_n(leader_.data(), kLeaderLength, start);
+  WriteDigits(image.size(), 5, start);
+  WriteDigits(base, 5, start + 12);
+  start[base - 1] = kEndOfField;
+  WriteFields(start + kLeaderLength, start + base);
+  image.back() = kEndOfRecord;
+  if (Utf8()) ReplaceHalfRings(image, base);
+}
+
+// Octets of the indicators, text and end of field of a row as they are written;
+// 0 for a row that is not: deleted, or without text.
+std::size_t Utf8MarcRecordClass::BodyLength(const FieldRecord& field) const {
+  if (field.deleted) return 0;
+  std::string_view last = field.whole_text;
+  std::size_t length = last.size();
+  if (last.empty()) {
+    for (std::int16_t row = field.first_subfield; row != kNoRow;) {
+      const SubfieldRecord& subfield = table_.Subfield(field, row);
+      row = subfield.next;
+      if (subfield.deleted && !field.is_control) continue;
+      length += subfield.text.size() + (field.is_control ? 0 : 2);
+      last = subfield.text.empty() ? std::string_view(&subfield.code, 1) : subfield.text;
+    }
+  }
+  if (length == 0) return 0;
+  // An end of field that is there already is not written twice.
+  return length + field.Indicators().size() + (last.back() == kEndOfField ? 0 : 1);
+}
+
+void Utf8MarcRecordClass::WriteFields(char* directory, char* const data) {
+  char* place = data;
   for (std::int16_t row = first_field_; row != kNoRow; row = table_.Field(row).next) {
     const FieldRecord& field = table_.Field(row);
-    if (field.deleted) continue;
-    const std::size_t start = out_data_.size();
-    out_data_ += field.Indicators();
-    const std::size_t text_start = out_data_.size();
-    AppendText(field, out_data_);
-    if (out_data_.size() == text_start) {
-      out_data_.resize(start);
-      continue;
-    }
-    if (out_data_.back() != kEndOfField) out_data_ += kEndOfField;
-    image += field.Tag();
-    AppendDigits(out_data_.size() - start, 4, image);
-    AppendDigits(start, 5, image);
+    const std::size_t length = BodyLength(field);
+    if (length == 0) continue;
+    directory = std::copy_n(field.tag, 3, directory);
+    WriteDigits(length, 4, directory);
+    WriteDigits(static_cast<std::size_t>(place - data), 5, directory + 4);
+    directory += 9;
+    place = std::copy_n(field.indicators, field.Indicators().size(), place);
+    place = WriteText(field, place);
+    if (place[-1] != kEndOfField) *place++ = kEndOfField;
   }
-  if (Utf8()) ReplaceHalfRings(out_data_);
-  image += kEndOfField;
-  OverwriteDigits(image.size(), 5, 12, image);
-  image += out_data_;
-  image += kEndOfRecord;
-  OverwriteDigits(image.size(), 5, 0, image);
+}
+
+char* Utf8MarcRecordClass::WriteText(const FieldRecord& field, char* place) const {
+  if (!field.whole_text.empty()) {
+    return std::copy(field.whole_text.begin(), field.whole_text.end(), place);
+  }
+  for (std::int16_t row = field.first_subfield; row != kNoRow;) {
+    const SubfieldRecord& subfield = table_.Subfield(field, row);
+    row = subfield.next;
+    if (!field.is_control) {
+      if (subfield.deleted) continue;
+      *place++ = kDelimiter;
+      *place++ = subfield.code;
+    }
+    place = std::copy(subfield.text.begin(), subfield.text.end(), place);
+  }
+  return place;
 }
 
 // A thesis note in any form is left as the cataloguer wrote it.
@@ -193,15 +230,13 @@ void Utf8MarcRecordClass::BeforeRecordOut() {
   const std::int16_t field = current_field_;
   const std::int16_t subfield = current_subfield_;
   bool any = false;
-  for (std::int16_t row = first_field_; row != kNoRow;) {
+  const std::int16_t rows = table_.Count();
+  for (std::int16_t row = 0; row < rows; ++row) {
     const FieldRecord& candidate = table_.Field(row);
-    const std::int16_t next = candidate.next;
-    if (!candidate.deleted && candidate.Tag() == "502") {
-      any = true;
-      FldPointer(row);
-      RecastThesisNote();
-    }
-    row = next;
+    if (candidate.tag[0] != '5' || candidate.Tag() != "502" || candidate.deleted) continue;
+    any = true;
+    FldPointer(row);
+    RecastThesisNote();
   }
   if (!any) return;
   FldPointer(field);

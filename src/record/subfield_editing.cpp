@@ -60,14 +60,11 @@ void Utf8MarcRecordClass::AddSubfield(FieldRecord& field, char code, std::string
     code = kUnusableCode;
     modified_ = true;
   }
-  if (field.subfield_max == kNoRow || !SfdMoveLast(true)) {
-    field.first_subfield = field.last_subfield = kNoRow;
-    field.subfield_max = kNoRow;
-    AddFirstSubfield(field, code, text);
-    return;
-  }
-  field.changed = true;
-  InsertSubfield(code, text, true);
+  // While a field is parsed its last subfield is live: it was just added.
+  const bool behind_last = parsing_ ? field.last_subfield != kNoRow : SfdMoveLast(true);
+  if (!behind_last) return AddFirstSubfield(field, code, text);
+  if (parsing_) current_subfield_ = field.last_subfield;
+  InsertSubfield(field, code, text, true);
 }
 
 // The one subfield of a control field is row 0.  What is added later goes to a
@@ -80,7 +77,10 @@ void Utf8MarcRecordClass::AddControlText(FieldRecord& field, std::string_view te
   AddFirstSubfield(field, '\0', text);
 }
 
+// A field whose subfields are all deleted begins afresh, as one without any.
 void Utf8MarcRecordClass::AddFirstSubfield(FieldRecord& field, char code, std::string_view text) {
+  MarkChanged(field);
+  field.subfield_max = kNoRow;
   const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kFirst);
   if (row == kNoRow) return;
   field.first_subfield = field.last_subfield = row;
@@ -111,20 +111,21 @@ void Utf8MarcRecordClass::SfdInsertAfter(std::string_view code, std::string_view
 void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::string_view text,
                                                bool after) {
   if (!HasField() || code.empty() || FldIsControl()) return;
-  if (HasSubfield()) return InsertSubfield(code[0], table_.Arena().Keep(text), after);
+  if (HasSubfield())
+    return InsertSubfield(CurrentField(), code[0], table_.Arena().Keep(text), after);
   // Without a current subfield there is a place only in a field that has none.
   if (CurrentField().subfield_max == kNoRow) SfdAdd(code, text);
 }
 
 // Puts a subfield beside the current one; an empty text is not inserted.
-void Utf8MarcRecordClass::InsertSubfield(char code, std::string_view text, bool after) {
+void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
+                                         bool after) {
   if (text.empty()) return;
-  FieldRecord& field = CurrentField();
   if (!KeepsBlanks(field.Tag(), format_code_, code)) text = Trim(text);
   const std::int16_t beside = current_subfield_;
   const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kInserted);
   if (row == kNoRow) return;
-  field.changed = true;
+  MarkChanged(field);
   if (after) {
     LinkSubfields(field, row, table_.Subfield(field, beside).next);
     LinkSubfields(field, beside, row);
@@ -150,8 +151,7 @@ void Utf8MarcRecordClass::SetLeading6(std::string_view text) {
   AppendText(field, linked);
   field.link_key = MakeFieldOrderKey(field.Tag(), field.Indicators(), linked).link;
   const bool found = GoToSubfieldForward(field.first_subfield, true);
-  if (found) return InsertSubfield('6', text, false);
-  field.subfield_max = kNoRow;
+  if (found) return InsertSubfield(field, '6', text, false);
   AddFirstSubfield(field, '6', text);
 }
 
@@ -185,6 +185,7 @@ void Utf8MarcRecordClass::SfdChange(std::string_view code, std::string_view text
   SubfieldRecord& subfield = CurrentSubfield();
   subfield.code = one;
   subfield.text = table_.Arena().Keep(keep_blanks ? text : Trim(text));
+  MarkChanged(CurrentField());
   RebuildField(FldTag(), FldInd(), FldText());
 }
 
@@ -209,7 +210,7 @@ void Utf8MarcRecordClass::SfdDelete(bool care) {
   const bool is_gmd = care && subfield.code == 'h' && (field.Tag() == "245" || field.tag[0] == '8');
   const std::string ending = is_gmd ? GmdEnding() : std::string();
   subfield.deleted = true;
-  field.changed = true;
+  MarkChanged(field);
   if (is_gmd && field.Tag() == "245") GiveEndingTo245(ending);
 }
 
@@ -256,7 +257,7 @@ void Utf8MarcRecordClass::GiveEndingTo245(const std::string& ending) {
 void Utf8MarcRecordClass::AppendToSubfield(std::int16_t row, std::string_view ending) {
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), row);
   subfield.text = table_.Arena().Keep(std::string(subfield.text).append(ending));
-  subfield.has_norms = false;
+  subfield.norms = SubfieldRecord::kNoNorms;
 }
 
 // --- Order -------------------------------------------------------------------
@@ -264,6 +265,8 @@ void Utf8MarcRecordClass::AppendToSubfield(std::int16_t row, std::string_view en
 // Exchanges two neighbours in the chain.
 void Utf8MarcRecordClass::ExchangeSubfields(std::int16_t left, std::int16_t right) {
   FieldRecord& field = CurrentField();
+  field.whole_text = {};
+  chain_moved_ = true;
   const std::int16_t before = table_.Subfield(field, left).prev;
   const std::int16_t behind = table_.Subfield(field, right).next;
   LinkSubfields(field, before, right);

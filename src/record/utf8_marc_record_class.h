@@ -33,6 +33,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "charset/utf8_char_class.h"
 #include "record/field_table.h"
@@ -491,12 +492,14 @@ class Utf8MarcRecordClass {
   void LoadInCharacterSet(char set);
   void LoadFields();
   bool LoadField(std::string_view tag, std::string_view text, std::string_view& text_of_001);
-  void CheckLoadOrder();
   void BeforeRecordOut();
   void RecastThesisNote();
   bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
                        std::string& miscellaneous, std::string& institution,
                        std::string& year) const;
+  std::size_t BodyLength(const FieldRecord& field) const;
+  void WriteFields(char* directory, char* data);
+  char* WriteText(const FieldRecord& field, char* place) const;
   void AppendText(const FieldRecord& field, std::string& out) const;
 
   // Settings (record_settings.cpp).
@@ -515,6 +518,12 @@ class Utf8MarcRecordClass {
   std::string_view DataFieldText(std::string_view text);
   void ParseFieldText(std::int16_t row, std::string_view text);
   void ParseSubfields(FieldRecord& field, std::string_view text);
+  void FindDelimiters(std::string_view text);
+  bool Is880InDisguise(std::string_view tag, std::string_view text) const;
+  static void MarkChanged(FieldRecord& field) {
+    field.changed = true;
+    field.whole_text = {};
+  }
   void RebuildField(std::string_view tag, std::string_view indicators, std::string_view text);
   std::string_view WithKeptNumericSubfields(std::string_view text);
   bool MayStay(const FieldRecord& field, const OrderKey& key, bool has_subfield6) const;
@@ -542,7 +551,7 @@ class Utf8MarcRecordClass {
   void AddSubfield(FieldRecord& field, char code, std::string_view text);
   void AddControlText(FieldRecord& field, std::string_view text);
   void AddFirstSubfield(FieldRecord& field, char code, std::string_view text);
-  void InsertSubfield(char code, std::string_view text, bool after);
+  void InsertSubfield(FieldRecord& field, char code, std::string_view text, bool after);
   void InsertBesideSubfield(std::string_view code, std::string_view text, bool after);
   std::int16_t AppendSubfieldRow(FieldRecord& field, char code, std::string_view text,
                                  NormOrigin origin);
@@ -565,7 +574,7 @@ class Utf8MarcRecordClass {
   // (normalize/subfield_norms.cpp).  SettleNorms makes all that are pending,
   // before something that they depend on changes.
   void MakeNorms(const FieldRecord& field, SubfieldRecord& subfield);
-  void WriteNorms(const FieldRecord& field, SubfieldRecord& subfield);
+  SubfieldNorms NormsOf(const FieldRecord& field, const SubfieldRecord& subfield);
   void SettleNorms();
   void SettleNorms(const FieldRecord& field);
 
@@ -615,6 +624,7 @@ class Utf8MarcRecordClass {
 
   // The table and its chain.
   FieldTable table_;
+  std::vector<std::uint32_t> delimiters_;  // their places in the field text at hand
   std::int16_t first_field_ = kNoRow;
   std::int16_t last_field_ = kNoRow;
   std::int16_t field_008_ = kNoRow;
@@ -640,6 +650,7 @@ class Utf8MarcRecordClass {
   bool new_record_ = false;
   bool modified_ = false;
   bool in_key_order_ = true;  // the chain stands in ascending order of keys
+  bool chain_moved_ = false;  // a field or subfield does not stand where it arrived
   bool parsing_ = false;      // subfields are added while a field text is parsed
   bool fields_out_of_order_ = false;
   bool subfields_out_of_order_ = false;
