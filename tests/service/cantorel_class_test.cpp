@@ -126,6 +126,21 @@ TEST_F(CantorelResults, MessagesAreThoseOfTheLastRecord) {
   EXPECT_EQ(cantorel_.ReturnedMessageCount(), 0);
 }
 
+// An unknown instrument is told each time, and is no entry of the fourth band.
+TEST_F(CantorelResults, AnUnknownInstrumentIsToldForEachHeading) {
+  const std::vector<SampleField> fields(12, {"650", " 0", "$aSonatas (Zither and piano)"});
+  ASSERT_EQ(cantorel_.AddFields(SampleImage('c', fields), 1), 0);
+  const std::int32_t count = cantorel_.ReturnedMessageCount();
+  int told = 0;
+  for (std::int32_t i = 1; i <= count; ++i) {
+    cantorel_.ReturnedMessageIndex(i);
+    EXPECT_LE(cantorel_.ReturnedMessageType(), 2);
+    if (cantorel_.ReturnedMessageText() == "Unrecognized instrument ZITHER") ++told;
+  }
+  EXPECT_EQ(told, 12);
+  EXPECT_EQ(cantorel_.ReturnedUnrecognizedInstrumentTotal(), 0);
+}
+
 // Objects of one thread share everything; another thread has its own.
 TEST_F(CantorelResults, BelongToTheThread) {
   CantorelClass second;
