@@ -226,6 +226,10 @@ TEST_F(ProfileFileTest, ThreadsShareOneIndexWhileTheFileChanges) {
   EXPECT_EQ(Value("K"), "199");
 }
 
+TEST(ProgramFolder, HoldsThisProgram) {
+  EXPECT_TRUE(FileExists(ProgramFolder() + "\\platform_tests"));
+}
+
 TEST(IsIniLineSkippable, KnowsTheLinesOfAnOrderFile) {
   for (const char* line : {"", "no equals", ";a=1", " a=1", "[S]=", "=1", "\xC3\xA9=1", "#a=1"}) {
     std::int32_t position = 99;
