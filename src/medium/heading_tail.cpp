@@ -14,15 +14,9 @@
 namespace cantorel {
 namespace {
 
-constexpr std::string_view kOpenA =
-    "\x1F"
-    "a";
-constexpr std::string_view kOpenB =
-    "\x1F"
-    "b";
-constexpr std::string_view kOpenN =
-    "\x1F"
-    "n";
+constexpr std::string_view kOpenA = "\037a";
+constexpr std::string_view kOpenB = "\037b";
+constexpr std::string_view kOpenN = "\037n";
 
 // --- The phrase that a subdivision brings ----------------------------------------
 
@@ -61,7 +55,7 @@ FoundPhrase FindScorePhrase(std::string_view rest) {
 
 // "Piano scores (4 hands)" is read on as if it were "Solo with piano (4 hands)".
 FoundPhrase RewritePianoScores(HeadingParse& parse, const FoundPhrase& piano) {
-  constexpr std::string_view kOpening = "\x1Fv";
+  constexpr std::string_view kOpening = "\037v";
   constexpr std::string_view kSolo = "solo with ";
   std::string rewritten(kOpening);
   rewritten += kSolo;

@@ -30,7 +30,7 @@ TEST(HeadingPreparation, TakesOnlyHeadingsWithAnAAtTheirHead) {
       {"$3Piece 1$", "$3Piece 1$"},
   };
   for (const auto& [text, trailing] : cases) {
-    const HeadingAnswer answer = reader.ReadRaw(FromDollars(text));
+    const HeadingAnswer answer = reader.ReadRaw(Delimited(text));
     EXPECT_EQ(answer.result, kHeadingIsNoCandidate) << text;
     EXPECT_EQ(answer.field, "") << text;
     EXPECT_EQ(answer.trailing, trailing) << text;
@@ -119,14 +119,11 @@ TEST(HeadingPreparation, SurvivesAnyOctets) {
                                            ")",
                                            ",",
                                            " ",
-                                           "\x1F",
-                                           "\x1F"
-                                           "a",
-                                           "\x1F"
-                                           "v",
-                                           "\x1F"
-                                           "3",
                                            "$",
+                                           "$a",
+                                           "$v",
+                                           "$3",
+
                                            ".",
                                            "\xC3",
                                            "\xE2\x80",
@@ -166,29 +163,19 @@ TEST(HeadingPreparation, SurvivesAnyOctets) {
                                            "out accompaniment"};
   std::minstd_rand random(382);
   for (int i = 0; i < 20000; ++i) {
-    std::string text = i % 5 == 0 ? ""
-                                  : "\x1F"
-                                    "a";
+    std::string text = i % 5 == 0 ? "" : "$a";
     for (std::size_t n = random() % 12; n > 0; --n) text += pieces[random() % pieces.size()];
-    const HeadingAnswer answer = reader.ReadRaw(text);
+    const HeadingAnswer answer = reader.ReadRaw(Delimited(text));
     ASSERT_GE(answer.result, kHeadingIsNoCandidate);
     if (answer.result != kHeadingGaveField) {
       ASSERT_EQ(answer.field, "");
     }
   }
   for (const std::string& piece : pieces) {
-    std::string text =
-        "\x1F"
-        "aSonatas (";
+    std::string text = "Sonatas (";
     while (text.size() < 10000) text += piece;
-    EXPECT_LE(reader.ReadRaw(text).result, kHeadingGaveField) << piece;
-    EXPECT_LE(reader
-                  .ReadRaw("\x1F"
-                           "aSymphonies\x1F"
-                           "v" +
-                           text)
-                  .result,
-              kHeadingGaveField);
+    EXPECT_LE(reader.Read(text).result, kHeadingGaveField) << piece;
+    EXPECT_LE(reader.Read("$aSymphonies$v" + text).result, kHeadingGaveField) << piece;
   }
 }
 

@@ -24,7 +24,7 @@ TEST(HeadingPatterns, MusicForAMedium) {
           {"Drum and bugle corps music", "$adrum and bugle corps$n1$2lcmpt", "one term"},
           {"Fife and drum corps music", "$afife and drum corps$n1$2lcmpt", "one term"},
           {"Flute choir music", "$aflute choir$e1$2lcmpt", "ensemble of the vocabulary"},
-          {"Guitar ensemble music", "$aguitar ensemble$e1", "made by rule: no $2"},
+          {"Saxophone ensemble music", "$asaxophone ensemble$e1", "made by rule: no $2"},
           {"Piano music (4 hands)", "$apiano$n2$v4 hands, piano$2lcmpt", "hands form"},
           {"Piano music (Piano (4 hands))", "$apiano$n2$vpiano (4 hands), piano$2lcmpt", "note"},
           {"Piano music (Pianos (2))", "$apiano$n2$2lcmpt", "one medium"},
@@ -95,8 +95,8 @@ TEST(HeadingTail, VocalScoresBringTheirAccompaniment) {
                     "$apiano$n2$a$n2$2lcmpt", "an empty part with the count of the parenthesis"},
                    {"Choruses (Mixed voices)$vVocal scores with flute, ophicleide", "$aflute$n1",
                     "the call ends with what was read"},
-                   {"Choruses (Mixed voices)$vVocal scores with guitar ensemble",
-                    "$amixed chorus$e1$aguitar ensemble$e1", "made by rule: no $2"},
+                   {"Choruses (Mixed voices)$vVocal scores with saxophone ensemble",
+                    "$amixed chorus$e1$asaxophone ensemble$e1", "made by rule: no $2"},
                    {"Symphonies$vAbridged vocal scores with piano", "$aorchestra$e1$2lcmpt",
                     "not at the code"},
                });
@@ -133,9 +133,9 @@ TEST(HeadingTail, StripAccompaniment) {
       {"", ""},
   };
   for (const auto& [text, stripped] : cases) {
-    std::string field = FromDollars(text);
+    std::string field = Delimited(text);
     StripAccompaniment(field);
-    EXPECT_EQ(ToDollars(field), stripped) << text;
+    EXPECT_EQ(Readable(field), stripped) << text;
   }
 }
 
@@ -150,9 +150,9 @@ TEST(Soloists, Settle) {
       {"", ""},
   };
   for (const auto& [text, settled] : cases) {
-    std::string field = FromDollars(text);
+    std::string field = Delimited(text);
     SettleSoloists(reader.Context(), field);
-    EXPECT_EQ(ToDollars(field), settled) << text;
+    EXPECT_EQ(Readable(field), settled) << text;
   }
 }
 

@@ -31,18 +31,24 @@ class SmallVocabulary {
     std::filesystem::create_directories(folder_);
     std::ofstream(folder_ / "MusicMedium.Lcmpt.txt", std::ios::binary)
         << "[Instruments]\n"
-           "BARITONE_HORN=baritone horn\nBASSOON=bassoon\nCELLO=cello\nCONTINUO=continuo\n"
-           "DRUM_AND_BUGLE_CORPS=drum and bugle corps\nELECTRONICS=electronics\n"
-           "FIFE_AND_DRUM_CORPS=fife and drum corps\nFLUTE=flute\tend-blown or transverse\n"
-           "GUITAR=guitar\nHIGH_VOICE=high voice\nJAZZ_ENSEMBLE=jazz ensemble\n"
-           "MEDIUM_VOICE=medium voice\nOBOE=oboe\nORCHESTRA=orchestra\n"
+           "BAND=band\nBARITONE_HORN=baritone horn\nBASSOON=bassoon\nCELLO=cello\n"
+           "CLARINET=clarinet\nCONTINUO=continuo\nDRUM_AND_BUGLE_CORPS=drum and bugle corps\n"
+           "ELECTRONICS=electronics\nFIFE_AND_DRUM_CORPS=fife and drum corps\n"
+           "FLUTE=flute\tend-blown or transverse\nGUITAR=guitar\nHIGH_VOICE=high voice\n"
+           "HORN=horn\nJAZZ_ENSEMBLE=jazz ensemble\nLOW_VOICE=low voice\nMANDOLIN=mandolin\n"
+           "MEDIUM_VOICE=medium voice\nOBOE=oboe\nORCHESTRA=orchestra\nORGAN=organ\n"
            "PERCUSSION=percussion\nPIANO=piano\nPIANO_TRIO=piano trio\nRECORDER=recorder\n"
-           "SINGER=singer\nSTRING_ORCHESTRA=string orchestra\nVIOLIN=violin\n"
+           "SAXOPHONE=saxophone\nSINGER=singer\nSPEAKER=speaker\n"
+           "STRING_ORCHESTRA=string orchestra\nVIOLA=viola\nVIOLIN=violin\n"
+           "VIOLONCELLO=cello\nVOCAL_ENSEMBLE=vocal ensemble\n"
            "[Ensembles]\n"
-           "GUITAR_ENSEMBLE=guitar ensemble\nJAZZ_ENSEMBLE=jazz ensemble\n"
-           "ORCHESTRA=orchestra\nSTRING_ORCHESTRA=string orchestra\n";
+           "BAND=band\nCHORUS=chorus\nFLUTE_CHOIR=flute choir\nGUITAR_ENSEMBLE=guitar ensemble\n"
+           "JAZZ_ENSEMBLE=jazz ensemble\nMIXED_CHORUS=mixed chorus\nORCHESTRA=orchestra\n"
+           "STRING_ORCHESTRA=string orchestra\nWOMENS_CHORUS=women's chorus\n";
     std::ofstream(folder_ / "Music6xxTo655.txt", std::ios::binary)
-        << "[FileSignature]\nFilePresent=True\n";
+        << "[List12]\nTONE_POEMS=orchestra\nBRASS_BANDS=band\x1Fn1\n"
+           "GUQIN_TUNES=gu[U+0302]qin [u+0041][U+110000][U+D800][U+][U+00e9\n"
+           "[FileSignature]\nFilePresent=True\n";
   }
   ~SmallVocabulary() {
     std::error_code ignored;
@@ -51,7 +57,8 @@ class SmallVocabulary {
   SmallVocabulary(const SmallVocabulary&) = delete;
   SmallVocabulary& operator=(const SmallVocabulary&) = delete;
 
-  std::string Path() const { return folder_.string() + "\\MusicMedium.Lcmpt.txt"; }
+  std::string Folder() const { return folder_.string(); }
+  std::string Path() const { return Folder() + "\\MusicMedium.Lcmpt.txt"; }
 
  private:
   // Tests run side by side, each in a process of its own.
