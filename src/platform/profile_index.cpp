@@ -40,7 +40,7 @@ ProfileIndex::ProfileIndex(std::string text) : text_(std::move(text)) {
       }
       const auto [place, is_first] = sections_.try_emplace(line.name);
       section = is_first ? &place->second : nullptr;
-      if (is_first) section->text = rest;
+      if (section != nullptr) section->text = rest;
     } else if (section != nullptr && !line.name.empty()) {
       section->values.try_emplace(line.name, line.value);
     }

@@ -40,6 +40,53 @@ FLUTE = image(("001", b"flute"), ("245", b"00\x1faSyrinx /\x1fcDebussy."),
               ("650", b" 0\x1faFlute music."))
 
 
+# What headings give by `cantorel heading`, beside the rule that decides it.  A
+# field is written with its subfields, one blank around each.
+HEADINGS = [
+    # The group rule without a parenthesis: the number stands as a subfield code
+    # without text, which no record keeps.
+    ("Quartets", "$a instrument $2 lcmpt"),
+    # The group rule with 2 demands the parenthesis.
+    ("Duets", None),
+    # Fixed combinations of "Piano" and "String" with a group word.
+    ("Piano trios", "$a violin $n 1 $a cello $n 1 $a piano $n 1 $s 3 $2 lcmpt"),
+    ("String quartets", "$a violin $n 2 $a viola $n 1 $a cello $n 1 $s 4 $2 lcmpt"),
+    # " music" at the end: one known instrument, "baritone" being the horn.
+    ("Flute music", "$a flute $n 1 $s 1 $2 lcmpt"),
+    ("Baritone music", "$a baritone horn $n 1 $s 1 $2 lcmpt"),
+    # The same with " and ": two known instruments.
+    ("Violin and piano music", "$a violin $n 1 $a piano $n 1 $s 2 $2 lcmpt"),
+    # The hands form behind " music (" halves the hands.
+    ("Piano music (4 hands)", "$a piano $n 2 $v 4 hands, piano $s 2 $2 lcmpt"),
+    # The concerto rule adds "with orchestra" unless the parenthesis has a "with".
+    ("Concertos (Violin)", "$b violin $n 1 $a orchestra $e 1 $r 1 $t 1 $2 lcmpt"),
+    ("Concertos (Pianos (3) with string orchestra)",
+     "$b piano $n 3 $a string orchestra $e 1 $r 3 $t 1 $2 lcmpt"),
+    # The parenthesis is the medium; without it the words say nothing.
+    ("Sonatas (Flute and piano)", "$a flute $n 1 $a piano $n 1 $s 2 $2 lcmpt"),
+    ("Suites", None),
+    # A medium without a count takes no totals.
+    ("Trio sonatas (Oboes (2), continuo)", "$a oboe $n 2 $a continuo $2 lcmpt"),
+    # The instrument-family rule with a parenthesis.
+    ("Wind quintets (Bassoon, clarinet, flute, horn, oboe)",
+     "$a bassoon $n 1 $a clarinet $n 1 $a flute $n 1 $a horn $n 1 $a oboe $n 1 $s 5 $2 lcmpt"),
+    # The song rule; without an ensemble the soloist is no soloist.
+    ("Songs (High voice) with piano", "$a high voice $n 1 $a piano $n 1 $s 2 $2 lcmpt"),
+    # The chorus rule; the vocabulary has a chorus among the ensembles.
+    ("Cantatas", "$a chorus $e 1 $t 1 $2 lcmpt"),
+    ("Choruses, Sacred (Mixed voices) with organ",
+     "$a mixed chorus $e 1 $a organ $n 1 $t 1 $2 lcmpt"),
+    # " with " in a heading that no rule knows: all of it is a medium.  The
+    # vocabulary has "jazz ensemble" as a variant of a wider term.
+    ("Saxophone with jazz ensemble",
+     "$b saxophone $n 1 $a instrumental ensemble $e 1 $r 1 $t 1 $2 lcmpt"),
+    # No rule, no music, no "with", not in the list of whole headings.
+    ("Operas $v Vocal scores with piano", None),
+    # Excerpts are refused ahead of all rules.
+    ("Symphonies $v Excerpts", None),
+]
+
+
 class CommandTest(unittest.TestCase):
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp())
@@ -74,6 +121,20 @@ class CommandTest(unittest.TestCase):
         self.assertEqual(answer["fields"], [
             {"id": 0, "action": "add", "tag": "382", "indicators": "01",
              "subfields": [["a", "flute"], ["n", "1"], ["s", "1"], ["2", "lcmpt"]]}])
+
+    def test_headings(self):
+        for heading, expected in HEADINGS:
+            with self.subTest(heading):
+                done = run("heading", "--json", heading)
+                self.check(done, 0)
+                answer = json.loads(done.stdout)
+                self.assertEqual(answer["title"], heading)
+                fields = [" ".join(f"${code} {text}" for code, text in field["subfields"])
+                          for field in answer["fields"] if field["tag"] == "382"]
+                self.assertEqual(fields, [expected] if expected else [])
+                # A heading that gives nothing is named.
+                self.assertEqual([m["type_name"] for m in answer["messages"]],
+                                 [] if expected else ["382 non-productive"])
 
     def test_text(self):
         done = run("convert", "-", stdin=FLUTE)
