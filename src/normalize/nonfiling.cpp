@@ -15,6 +15,8 @@
 namespace cantorel {
 namespace {
 
+constexpr std::string_view kOpensA = "\x1F\x61";  // delimiter and code of a $a
+
 // Each entry: tag, colon, the indicator that holds the count, a blank.
 constexpr std::size_t kEntrySize = 6;
 struct NonfilingTags {
@@ -147,8 +149,7 @@ void Utf8MarcRecordClass::RemoveNonfilingZone(std::string& text, bool& found) co
     ZoneRemover remover(all.substr(begin, end - begin), markers, out);
     remover.Run();
     if (remover.StrayEndFound()) {
-      const std::string raised = UCaseFirstWord(std::string_view(out).substr(place));
-      out.replace(place, std::string::npos, raised);
+      out.replace(place, std::string::npos, UCaseFirstWord(out.substr(place)));
     }
     // A stray end in a subfield does not count as a zone, at the start of an
     // undelimited text it does; that is deliberate.
@@ -178,11 +179,9 @@ std::string Utf8MarcRecordClass::RemoveNonfilingCharacters(std::string_view form
   }
   if (zone_found || count == 0) return filed;
 
-  const std::size_t code_a = filed.find(
-      "\x1F"
-      "a");
+  const std::size_t code_a = filed.find(kOpensA);
   const std::size_t front = code_a == std::string::npos ? 0 : code_a + 2;
-  const std::string_view rest = std::string_view(filed).substr(front);
+  const std::string_view rest = From(filed, front);
   const std::size_t octets = OctetsOfCharacters(rest, count, Utf8());
   if (octets == 0) return filed;
   const std::string_view kept = rest.substr(octets);

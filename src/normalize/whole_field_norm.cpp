@@ -19,6 +19,8 @@ namespace {
 
 constexpr std::string_view kBibliographicFormats = "BDFMPSU";
 
+constexpr std::string_view kOpensA = "\x1F\x61";  // delimiter and code of a $a
+
 // Codes of control subfields, which an authority heading is compared without.
 constexpr std::string_view kControlCodes = "w0123456789";
 
@@ -80,9 +82,7 @@ void AppendDelimiter(std::string_view code, std::string& out) {
 
 // The field text from the text of its first $a on, or all of it.
 std::string_view FromFirstA(std::string_view text) {
-  const std::size_t place = text.find(
-      "\x1F"
-      "a");
+  const std::size_t place = text.find(kOpensA);
   return place == std::string_view::npos ? text : Trim(text.substr(place + 2));
 }
 
@@ -91,6 +91,12 @@ std::string_view FromFirstA(std::string_view text) {
 bool TakesWholeA(std::string_view format, std::string_view tag) {
   if (format == "A") return !Holds("100 400 500", tag);
   return IsBibliographic(format) && !Holds("100 400 500 600 700 800", tag);
+}
+
+// Appends the form of a $a: of an inverted name by its parts, unless `whole`.
+void AppendHeadingNorm(std::string_view text, char set, bool whole, std::string& out) {
+  if (!whole && AppendInvertedNameNorm(text, set, false, out)) return;
+  AppendTextNorm(text, true, set, false, out);
 }
 
 std::string NormOfCurrentField(std::string_view scheme, Utf8MarcRecordClass& record) {
@@ -129,10 +135,11 @@ std::string Utf8MarcRecordClass::NormalizeWholeField(std::string_view scheme,
     const std::string_view code = walk.Code();
     if (!Holds(codes, code)) continue;
     std::string filed;
+    std::string_view piece = walk.Text();
     if (code == "a") {
-      filed = RemoveNonfilingCharacters(format, tag, live_indicators, walk.Text(), true);
+      filed = RemoveNonfilingCharacters(format, tag, live_indicators, piece, true);
+      piece = filed;
     }
-    const std::string_view piece = code == "a" ? std::string_view(filed) : walk.Text();
     AppendDelimiter(code, pieces);
     pieces += piece;
     if (!naco) {
@@ -140,9 +147,7 @@ std::string Utf8MarcRecordClass::NormalizeWholeField(std::string_view scheme,
       AppendTextNorm(piece, true, character_set_out_, false, norm);
     } else if (code == "a") {
       AppendDelimiter(code, norm);
-      if (whole_a || !AppendInvertedNameNorm(piece, character_set_out_, false, norm)) {
-        AppendTextNorm(piece, true, character_set_out_, false, norm);
-      }
+      AppendHeadingNorm(piece, character_set_out_, whole_a, norm);
     } else if (format != "A" || !Holds(kControlCodes, code)) {
       AppendDelimiter(code, norm);
       const NormKeeps keeps = NacoKeeps(scheme, format, tag, code);
@@ -163,9 +168,7 @@ std::string Utf8MarcRecordClass::GenerateNacoFormFromRaw(std::string_view tag,
     if (code == "a") {
       norm.clear();  // deliberate: the form begins anew with every $a
       AppendDelimiter(code, norm);
-      if (!AppendInvertedNameNorm(walk.Text(), character_set_out_, false, norm)) {
-        AppendTextNorm(walk.Text(), true, character_set_out_, false, norm);
-      }
+      AppendHeadingNorm(walk.Text(), character_set_out_, false, norm);
     } else if (!Holds(kControlCodes, code)) {
       AppendDelimiter(code, norm);
       const NormKeeps keeps = NacoKeeps("P", "A", tag, code);
