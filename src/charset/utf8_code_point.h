@@ -41,8 +41,14 @@ constexpr std::uint32_t OctetValueOfCodePoint(std::uint32_t code_point) {
   return (0xE0 | code_point >> 12) << 16 | (0x80 | (code_point >> 6 & 0x3F)) << 8 | last;
 }
 
-// Appends the octets of a code point up to U+FFFF.
+// Appends the octets of a code point up to U+10FFFF.
 inline void AppendUtf8(std::uint32_t code_point, std::string& out) {
+  if (code_point > 0xFFFF) {
+    out += static_cast<char>(0xF0 | code_point >> 18);
+    for (const int shift : {12, 6, 0})
+      out += static_cast<char>(0x80 | (code_point >> shift & 0x3F));
+    return;
+  }
   const std::uint32_t value = OctetValueOfCodePoint(code_point);
   if (value > 0xFFFF) out += static_cast<char>(value >> 16);
   if (value > 0xFF) out += static_cast<char>(value >> 8 & 0xFF);

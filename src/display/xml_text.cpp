@@ -28,13 +28,6 @@ struct TextEntity {
 };
 constexpr TextEntity kTextEntities[] = {{"ang", "8736"}, {"apos", "'"}};
 
-void AppendAnyUtf8(std::uint32_t code, std::string& out) {
-  if (code < 0x10000) return AppendUtf8(code, out);
-  out.push_back(static_cast<char>(0xF0 | code >> 18));
-  for (const int shift : {12, 6, 0})
-    out.push_back(static_cast<char>(0x80 | (code >> shift & 0x3F)));
-}
-
 // The code points that XML allows in a text.  The others stay references: among
 // them are the octets that hold a record together.
 bool MayStandInText(std::uint32_t code) {
@@ -67,7 +60,7 @@ std::uint32_t CodeOfName(std::string_view name) {
 // Appends a code point as the set wants it.  The 8-bit sets take ASCII as it is
 // and the rest as the token for what they lack.
 void AppendCodePoint(std::uint32_t code, bool utf8, std::string& out) {
-  if (utf8 || code < 0x80) return AppendAnyUtf8(code, out);
+  if (utf8 || code < 0x80) return AppendUtf8(code, out);
   char digits[8];
   const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), code, 16);
   std::transform(digits, end, digits, [](char c) { return c >= 'a' ? c - 32 : c; });

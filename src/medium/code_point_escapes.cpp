@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "charset/utf8_code_point.h"
+
 namespace cantorel {
 namespace {
 
@@ -21,19 +23,6 @@ std::optional<std::uint32_t> ReadHex(std::string_view digits) {
   const auto [stop, error] = std::from_chars(digits.data(), end, value, 16);
   if (error != std::errc() || stop != end || !IsScalarValue(value)) return std::nullopt;
   return value;
-}
-
-void AppendUtf8(std::uint32_t code_point, std::string& out) {
-  if (code_point < 0x80) {
-    out += static_cast<char>(code_point);
-    return;
-  }
-  const int continuations = code_point < 0x800 ? 1 : code_point < 0x10000 ? 2 : 3;
-  constexpr std::uint32_t kLead[] = {0, 0xC0, 0xE0, 0xF0};
-  out += static_cast<char>(kLead[continuations] | (code_point >> (6 * continuations)));
-  for (int i = continuations - 1; i >= 0; --i) {
-    out += static_cast<char>(0x80 | ((code_point >> (6 * i)) & 0x3F));
-  }
 }
 
 }  // namespace

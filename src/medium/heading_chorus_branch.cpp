@@ -86,7 +86,8 @@ void SetSingers(HeadingParse& parse, std::string_view parenthesis) {
   parse.SetField("$asinger$n1");
 }
 
-// "4 parts" gives a count and says in a note that it counts parts.
+// "4 parts" gives a count and says in a note that it counts parts.  Only the
+// first character must be a digit: "4-8" is taken as it stands.
 void AppendParts(HeadingParse& parse, std::string_view parenthesis) {
   const std::size_t parts = FindNoCase(parenthesis, "parts");
   if (parts == std::string_view::npos) return;

@@ -29,9 +29,16 @@ enum HeadingResult : std::int32_t {
   kNoEnsembleVocabulary = -3,
 };
 
-// Reads the field text of a heading.  `buffer` receives the text of the 382,
-// possibly with a prefix for its indicators; `trailing` a $3 of the heading,
-// which the caller appends.
+// Reads the field text of a heading.
+//
+// `buffer` receives the text of the 382: delimiter, code and text of each
+// subfield, ahead of them possibly a prefix for the indicators ("1:" or "10:").
+// It is empty unless the result is kHeadingGaveField, and may be empty even
+// then: a vocal score for unknown instruments leaves no field behind.
+// `trailing` receives a $3 of the heading, which the caller appends.
+//
+// A text of any other shape than $a (or a $3, then $a) at its head is no
+// candidate; octets of any kind are read as they come.
 HeadingResult ParseHeading(MediumContext& context, const HeadingSettings& settings,
                            std::string_view field_text, std::string& buffer, std::string& trailing);
 

@@ -56,6 +56,7 @@ bool SubdivisionsAllowMedium(std::string_view field, bool& of_interest) {
     return false;
   }
   if (found & kExcerpts) return false;
+  // A score is music, whatever else is said about it.
   if (found & kScore) {
     of_interest = true;
     return true;

@@ -1,6 +1,5 @@
 #include "medium/heading_tail.h"
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -18,41 +17,6 @@ constexpr std::string_view kOpenA = "\037a";
 constexpr std::string_view kOpenB = "\037b";
 constexpr std::string_view kOpenN = "\037n";
 
-// --- The phrase that a subdivision brings ----------------------------------------
-
-enum class ScoreKind { kNone, kVocal, kPiano, kSolo };
-
-struct ScorePhrase {
-  std::string_view literal;
-  ScoreKind kind = ScoreKind::kNone;
-};
-
-// The first of these that occurs counts, whatever stands further on.
-constexpr std::array<ScorePhrase, 6> kScorePhrases = {{
-    {"vocal scores with", ScoreKind::kVocal},
-    {"vocal score with", ScoreKind::kVocal},
-    {kPianoScores, ScoreKind::kPiano},
-    {"chorus scores with", ScoreKind::kVocal},
-    {"solo with ", ScoreKind::kSolo},
-    {"solos with ", ScoreKind::kSolo},
-}};
-
-struct FoundPhrase {
-  ScoreKind kind = ScoreKind::kNone;
-  std::size_t start = 0;   // of the phrase, in the rest
-  std::size_t behind = 0;  // behind it
-};
-
-FoundPhrase FindScorePhrase(std::string_view rest) {
-  for (const ScorePhrase& phrase : kScorePhrases) {
-    const std::size_t position = FindNoCase(rest, phrase.literal);
-    if (position == std::string_view::npos) continue;
-    if (!OpensSubdivision(rest, position)) return {};
-    return {phrase.kind, position, position + phrase.literal.size()};
-  }
-  return {};
-}
-
 // "Piano scores (4 hands)" is read on as if it were "Solo with piano (4 hands)".
 FoundPhrase RewritePianoScores(HeadingParse& parse, const FoundPhrase& piano) {
   constexpr std::string_view kOpening = "\037v";
@@ -69,19 +33,18 @@ FoundPhrase RewritePianoScores(HeadingParse& parse, const FoundPhrase& piano) {
 
 // The medium behind the phrase.
 std::string_view MediumBehind(std::string_view rest, std::size_t position) {
-  std::string_view phrase = Trim(TextUpToDelimiter(rest, position));
-  if (StartsWithNoCase(phrase, "solo with"))
-    phrase = phrase.substr(0, FindNoCase(phrase, ", arranged"));
-  return phrase;
+  const std::string_view phrase = Trim(TextUpToDelimiter(rest, position));
+  if (!StartsWithNoCase(phrase, "solo with")) return phrase;
+  return phrase.substr(0, FindNoCase(phrase, ", arranged"));
 }
-
-// --- Joining the field and what the subdivision brings ------------------------------
 
 enum class TailStep {
   kSettle,  // go on to the soloists and the $2
   kEnd,     // the field is as it will be
 };
 
+// The score is for piano, whatever the heading is for: all that stood in the
+// field goes, a prefix for the indicators included.
 TailStep EndWithPianos(HeadingParse& parse, std::string_view dollar_form) {
   parse.SetField(dollar_form);
   parse.buffer += parse.settings.subfield_2;
@@ -116,6 +79,7 @@ TailStep ReplaceLastMedium(HeadingParse& parse, std::string_view new_part,
   const std::size_t last = parse.buffer.rfind(kOpenA);
   if (last == std::string::npos) return TailStep::kSettle;
   std::string tail = parse.buffer.substr(last + kOpenA.size());
+  // A last medium without a count is given up only if it is an orchestra.
   const std::size_t delimiter = tail.find(kDelimiter);
   if (delimiter == std::string::npos && tail != "orchestra") return TailStep::kEnd;
   tail.erase(0, delimiter);
@@ -158,8 +122,8 @@ TailStep ReadMediumOfScore(HeadingParse& parse, ScoreKind kind, std::string_view
   // "Vocal scores without accompaniment" matches "Vocal scores with" as well,
   // and leaves "out accompaniment".
   if (vocal && phrase.find("out accompaniment") != std::string_view::npos) {
-    if (HasSubfield(parse.buffer, 'a') && HasSubfield(parse.buffer, 'b'))
-      StripAccompaniment(parse.buffer);
+    const bool has_both = HasSubfield(parse.buffer, 'a') && HasSubfield(parse.buffer, 'b');
+    if (has_both) StripAccompaniment(parse.buffer);
     return JoinPart(parse, kind, {}, phrase);
   }
   const std::string old_buffer = std::exchange(parse.buffer, {});

@@ -29,7 +29,7 @@ struct Accompaniment {
 struct SongVoice {
   std::string_view opening;  // of the parenthesis, lower case
   std::string_view term;
-  bool takes_prefix;
+  bool takes_prefix;  // of a solo cantata; deliberately not for an ensemble
 };
 
 // Tried in this order.

@@ -33,6 +33,19 @@ constexpr std::string_view TextUpToDelimiter(std::string_view rest, std::size_t 
   return text.substr(0, text.find(kDelimiter));
 }
 
+enum class ScoreKind { kNone, kVocal, kPiano, kSolo };
+
+struct FoundPhrase {
+  ScoreKind kind = ScoreKind::kNone;
+  std::size_t start = 0;   // of the phrase, in the rest, from 0
+  std::size_t behind = 0;  // what follows it
+};
+
+// The phrase that tells what a score is for.  The phrases are sought in a fixed
+// order, and the first that occurs decides: unless it opens a subdivision, the
+// answer is none, whatever stands further on.
+FoundPhrase FindScorePhrase(std::string_view rest);
+
 }  // namespace cantorel
 
 #endif  // CANTOREL_MEDIUM_SCORE_PHRASES_H_

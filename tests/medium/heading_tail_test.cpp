@@ -45,7 +45,8 @@ TEST(HeadingPatterns, ListedHeadingsAndHymns) {
       {
           {"Tone poems", "$aorchestra$2lcmpt", "listed"},
           {"Tone-poems", "$aorchestra$2lcmpt", "by comparison form"},
-          {"Guqin tunes", "$agu\xCC\x82qin [u+0041][U+110000][U+D800][U+][U+00e9$2lcmpt",
+          {"Guqin tunes",
+           "$agu\xCC\x82qin [u+0041][U+110000]\xF0\x9D\x84\x9E[U+D800][U+][U+00e9$2lcmpt",
            "escapes decoded, what is none stays"},
           {"Hymnals", "", "not listed"},
           {"buddhist hymns, English", "$avocal ensemble$2lcmpt", "small letter; one $2 only"},

@@ -47,7 +47,7 @@ class SmallVocabulary {
            "STRING_ORCHESTRA=string orchestra\nWOMENS_CHORUS=women's chorus\n";
     std::ofstream(folder_ / "Music6xxTo655.txt", std::ios::binary)
         << "[List12]\nTONE_POEMS=orchestra\nBRASS_BANDS=band\x1Fn1\n"
-           "GUQIN_TUNES=gu[U+0302]qin [u+0041][U+110000][U+D800][U+][U+00e9\n"
+           "GUQIN_TUNES=gu[U+0302]qin [u+0041][U+110000][U+1D11E][U+D800][U+][U+00e9\n"
            "[FileSignature]\nFilePresent=True\n";
   }
   ~SmallVocabulary() {
