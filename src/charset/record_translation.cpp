@@ -24,12 +24,16 @@ std::string Utf8MarcRecordClass::DecomposeUnicodeCharactersInString(std::string_
 void Utf8MarcRecordClass::DecomposeAllFields() {
   characters_decomposed_ = false;
   const std::int16_t loaded = table_.Count();
-  std::string text;
+  std::string built;
   for (std::int16_t row = 0; row < loaded; ++row) {
     const FieldRecord& field = table_.Field(row);
     if (field.is_control || field.deleted) continue;
-    text.clear();
-    AppendText(field, text);
+    std::string_view text = field.whole_text;
+    if (text.empty()) {
+      built.clear();
+      AppendText(field, built);
+      text = built;
+    }
     if (IsAscii(text)) continue;
     bool changed = false;
     const std::string decomposed = DecomposeUnicodeCharactersInString(text, changed);

@@ -53,11 +53,11 @@ std::string_view WithoutOpeningCode(std::string_view text) {
 
 // Room for two indicators; what is missing is blank.
 struct IndicatorPair {
-  char octets[2] = {' ', ' '};
+  char octets[2];
 
-  explicit IndicatorPair(std::string_view given) {
-    std::copy_n(given.begin(), std::min<std::size_t>(given.size(), 2), octets);
-  }
+  explicit IndicatorPair(std::string_view given)
+      : octets{given.empty() ? ' ' : given[0], given.size() > 1 ? given[1] : ' '} {}
+
   void BlankInvalid() {
     for (char& c : octets) {
       if (!IsIndicator(c)) c = ' ';
@@ -82,8 +82,9 @@ void Utf8MarcRecordClass::FldAddGeneric(std::string_view tag, std::string_view i
 
 bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indicators,
                                    std::string_view text, bool at_top) {
-  FindDelimiters(text);
-  if (Is880InDisguise(tag, text)) tag = "880";
+  const bool is_control = IsControlTag(tag);
+  if (!is_control) FindDelimiters(text);
+  if (!is_control && Is880InDisguise(tag, text)) tag = "880";
   if (tag == "008" && field_008_ != kNoRow) {
     Change008Value(0, text);
     return false;
@@ -93,7 +94,7 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
   const OrderKey key = MakeFieldOrderKey(tag, indicators, text);
   IndicatorPair pair(indicators);
   if (force_invalid_indicator_values_) pair.BlankInvalid();
-  text = IsControlTag(tag) ? ControlFieldText(tag, text, true) : DataFieldText(text);
+  text = is_control ? ControlFieldText(tag, text, true) : DataFieldText(text);
 
   const std::int16_t row = AppendFieldRow(tag, pair.View(), key);
   if (table_.Count() == 1) {
@@ -144,7 +145,8 @@ void Utf8MarcRecordClass::SetTagAndIndicators(FieldRecord& field, std::string_vi
   std::copy_n(tag.begin(), 3, field.tag);
   field.is_control = IsControlTag(tag);
   const IndicatorPair pair(indicators);
-  std::copy_n(pair.octets, 2, field.indicators);
+  field.indicators[0] = pair.octets[0];
+  field.indicators[1] = pair.octets[1];
 }
 
 // The text of a control field: no delimiter and code ahead, and an 008 of the

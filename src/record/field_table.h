@@ -95,6 +95,10 @@ struct FieldRecord {
   }
 };
 
+// What a row begins as.  Copying one is a few moves; making one afresh is not.
+inline constexpr SubfieldRecord kBlankSubfield;
+inline constexpr FieldRecord kBlankField;
+
 class FieldTable {
  public:
   // Empties the table; memory stays for the next record.
@@ -121,7 +125,7 @@ class FieldTable {
     if (row == fields_.size()) {
       fields_.emplace_back();
     } else {
-      std::construct_at(&fields_[row]);  // in place: copying a blank row costs more
+      fields_[row] = kBlankField;
     }
     fields_[row].first_row = static_cast<std::uint32_t>(pool_used_);
     return count_++;
@@ -135,7 +139,7 @@ class FieldTable {
   std::int16_t AppendSubfield(FieldRecord& field) {
     if (field.subfield_max + 1 >= field.subfield_capacity && !Grow(field)) return kNoRow;
     ++field.subfield_max;
-    std::construct_at(&Subfield(field, field.subfield_max));
+    Subfield(field, field.subfield_max) = kBlankSubfield;
     return field.subfield_max;
   }
 

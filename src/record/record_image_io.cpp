@@ -98,14 +98,14 @@ void Utf8MarcRecordClass::LoadInCharacterSet(char set) {
   const std::string_view whole = image_;
   if (base > kLeaderLength) directory_ = whole.substr(kLeaderLength, base - 1 - kLeaderLength);
   data_ = whole.substr(base, whole.size() - 1 - base);
-  const bool ascii = IsAscii(data_);
-  if (set == 'U' && !ascii && data_.find(kHalfRing) != std::string_view::npos) {
+  const bool accented = set == 'U' && !IsAscii(data_);
+  if (accented && data_.find(kHalfRing) != std::string_view::npos) {
     data_copy_ = data_;
     ReplaceHalfRings(data_copy_);
     data_ = data_copy_;
   }
   LoadFields();
-  if (set == 'U' && !ascii && !disable_utf8_decomposition_) DecomposeAllFields();
+  if (accented && !disable_utf8_decomposition_) DecomposeAllFields();
   SetCharacterSetOutLetter(wanted, lc_pattern_);
 }
 
