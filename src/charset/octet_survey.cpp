@@ -25,9 +25,15 @@ constexpr OctetRange kSingleOctetSigns[] = {
 
 constexpr OctetRange kPlain = {29, 126};
 
+// All octets are looked at, as narrow as they are, so that many go at once.
 bool IsPlain(std::string_view text) {
-  unsigned outside = 0;
-  for (char c : text) outside |= (Octet(c) - kPlain.first) > (kPlain.last - kPlain.first);
+  constexpr auto kFirst = static_cast<unsigned char>(kPlain.first);
+  constexpr auto kSpan = static_cast<unsigned char>(kPlain.last - kPlain.first);
+  unsigned char outside = 0;
+  for (char c : text) {
+    const auto above = static_cast<unsigned char>(static_cast<unsigned char>(c) - kFirst);
+    outside = static_cast<unsigned char>(outside | (above > kSpan ? 1 : 0));
+  }
   return outside == 0;
 }
 

@@ -60,8 +60,8 @@ constexpr std::size_t Utf8Length(std::string_view text) {
 
 // True when every octet is below 128.
 inline bool IsAscii(std::string_view text) {
-  unsigned any = 0;
-  for (char c : text) any |= Octet(c);
+  unsigned char any = 0;  // as narrow as the octets, so that many go at once
+  for (char c : text) any = static_cast<unsigned char>(any | static_cast<unsigned char>(c));
   return any < 0x80;
 }
 

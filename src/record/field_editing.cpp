@@ -5,6 +5,7 @@
 #include <string>
 
 #include "charset/marc_control.h"
+#include "charset/octet_scan.h"
 #include "charset/octet_text.h"
 #include "record/record_image.h"
 #include "record/safe_text.h"
@@ -109,11 +110,7 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
 
 // Finds the delimiters of a field text once for all that ask about them.
 void Utf8MarcRecordClass::FindDelimiters(std::string_view text) {
-  delimiters_.clear();
-  for (std::size_t i = text.find(kDelimiter); i != std::string_view::npos;
-       i = text.find(kDelimiter, i + 1)) {
-    delimiters_.push_back(static_cast<std::uint32_t>(i));
-  }
+  FindOctets(text, kDelimiter, delimiters_);
 }
 
 // True for an 880 that was given under the tag it stands for: its $6 names the
