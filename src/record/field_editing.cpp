@@ -7,6 +7,7 @@
 #include "charset/marc_control.h"
 #include "charset/octet_scan.h"
 #include "charset/octet_text.h"
+#include "charset/utf8.h"
 #include "record/record_image.h"
 #include "record/safe_text.h"
 #include "record/utf8_marc_record_class.h"
@@ -86,7 +87,7 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
   const bool is_control = IsControlTag(tag);
   if (!is_control) FindDelimiters(text);
   if (!is_control && Is880InDisguise(tag, text)) tag = "880";
-  if (tag == "008" && field_008_ != kNoRow) {
+  if (tag == "008" && HasLive008()) {
     Change008Value(0, text);
     return false;
   }
@@ -108,6 +109,11 @@ bool Utf8MarcRecordClass::AddField(std::string_view tag, std::string_view indica
   return true;
 }
 
+// A record never has two 008; one that was deleted is none.
+bool Utf8MarcRecordClass::HasLive008() const {
+  return field_008_ != kNoRow && !table_.Field(field_008_).deleted;
+}
+
 // Finds the delimiters of a field text once for all that ask about them.
 void Utf8MarcRecordClass::FindDelimiters(std::string_view text) {
   FindOctets(text, kDelimiter, delimiters_);
@@ -125,15 +131,20 @@ bool Utf8MarcRecordClass::Is880InDisguise(std::string_view tag, std::string_view
 
 std::int16_t Utf8MarcRecordClass::AppendFieldRow(std::string_view tag, std::string_view indicators,
                                                  const OrderKey& key) {
+  // The arguments may be views of a row, and rows move when the table grows.
+  const char kept_tag[3] = {tag[0], tag[1], tag[2]};
+  const IndicatorPair pair(indicators);
   const std::int16_t row = table_.AppendField();
   FieldRecord& field = table_.Field(row);
   field.order_key = key.key;
   field.link_key = key.link;
   field.changed = true;
-  SetTagAndIndicators(field, tag, indicators);
+  SetTagAndIndicators(field, {kept_tag, 3}, pair.View());
   current_field_ = row;
+  current_subfield_ = kNoRow;
   field_found_ = true;
-  if (tag == "008") field_008_ = row;
+  subfield_found_ = false;
+  if (field.Tag() == "008") field_008_ = row;
   return row;
 }
 
@@ -231,7 +242,7 @@ void Utf8MarcRecordClass::RebuildField(std::string_view tag, std::string_view in
   text = table_.Arena().Keep(new_text.append(text));
   const bool is_control = IsControlTag(new_tag);
   text = is_control ? ControlFieldText(new_tag, text, false) : DataFieldText(text);
-  if (preserve_leading_numeric_subfields_) text = WithKeptNumericSubfields(text);
+  if (preserve_leading_numeric_subfields_ && !is_control) text = WithKeptNumericSubfields(text);
 
   CurrentField().changed = true;
   if (row == field_008_) field_008_ = kNoRow;
@@ -261,7 +272,7 @@ std::string_view Utf8MarcRecordClass::WithKeptNumericSubfields(std::string_view 
   const FieldRecord& field = CurrentField();
   for (std::int16_t row = field.is_control ? kNoRow : field.first_subfield; row != kNoRow;) {
     const SubfieldRecord& subfield = table_.Subfield(field, row);
-    if (subfield.code > '9') break;
+    if (Octet(subfield.code) > '9') break;
     row = subfield.next;
     const std::string delimiter_and_code{kDelimiter, subfield.code};
     if (subfield.deleted || !IsAsciiDigit(subfield.code) ||
@@ -359,7 +370,7 @@ void Utf8MarcRecordClass::InsertBeside(std::string_view tag, std::string_view in
                                        std::string_view text, bool after) {
   const bool linked_880 = tag == "880" && FindSubfield6(text) != std::string_view::npos;
   if (table_.Count() == 0 || !HasField() || linked_880) return FldAdd(tag, indicators, text);
-  if (tag == "008" && field_008_ != kNoRow) return Change008Value(0, text);
+  if (tag == "008" && HasLive008()) return Change008Value(0, text);
   if (!IsFieldTag(tag) || table_.Full()) return;
   const bool is_control = IsControlTag(tag);
   if (!is_control && !indicators.empty() &&
@@ -454,8 +465,8 @@ void Utf8MarcRecordClass::FldInsertSubfieldH(std::string_view text) {
   if (designation.find(']') == std::string::npos) designation += ']';
   designation.insert(designation.rfind(']') + 1, closing);
 
+  if (end < before.size()) ReplaceSubfieldText(ahead, std::string_view(before).substr(0, end));
   SfdPointer(ahead);
-  if (end < before.size()) SfdText(std::string_view(before).substr(0, end));
   SfdInsertAfter("h", designation);
 }
 

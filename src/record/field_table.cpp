@@ -36,7 +36,7 @@ std::string_view TextArena::Keep(std::string_view text) {
 
 void TextArena::Clear() {
   // A record of unusual size must not hold its memory for the rest of the run.
-  while (!blocks_.empty() && blocks_.back().capacity > kBlockSize) blocks_.pop_back();
+  std::erase_if(blocks_, [](const Block& block) { return block.capacity > kBlockSize; });
   block_ = 0;
   used_ = 0;
 }

@@ -190,7 +190,9 @@ std::string Utf8MarcRecordClass::SetFormatCode(std::string_view leader) {
   } else if (!judged.empty()) {
     type = judged[0];
   }
-  format_code_ = FormatOf(type, type == 'a' && SerialBibliographicRecord(judged));
+  const char format = FormatOf(type, type == 'a' && SerialBibliographicRecord(judged));
+  if (format != format_code_) SettleNorms();
+  format_code_ = format;
   return MarcRecordFormat();
 }
 

@@ -144,6 +144,9 @@ std::string Utf8MarcRecordClass::MarcRecordOut() {
 void Utf8MarcRecordClass::MarcRecordOut(std::string& image) {
   if (table_.Count() < 1 || first_field_ == kNoRow) return image.clear();
   BeforeRecordOut();
+  // Fields that were added to no record at all go out under the leader of a new
+  // one.
+  if (leader_.size() != kLeaderLength) leader_ = kDefaultLeader;
   if (leader_.compare(22, 2, "00") != 0) leader_.replace(22, std::string::npos, "00");
 
   std::size_t fields = 0;
@@ -240,7 +243,7 @@ void Utf8MarcRecordClass::BeforeRecordOut() {
   }
   if (!any) return;
   FldPointer(field);
-  current_subfield_ = subfield;
+  if (HasField() && subfield <= CurrentField().subfield_max) current_subfield_ = subfield;
 }
 
 void Utf8MarcRecordClass::RecastThesisNote() {
@@ -283,7 +286,7 @@ void Utf8MarcRecordClass::Leader(std::string_view leader) {
   for (const std::int16_t position : {5, 6, 7, 8, 9, 17, 18, 19}) {
     ChangeLeaderValue(position, leader.substr(static_cast<std::size_t>(position), 1));
   }
-  if (leader[6] != leader_[6]) SettleNorms();
+  if (leader.substr(6, 1) != GetLeaderValue(6, 1)) SettleNorms();
   leader_ = leader.substr(0, kLeaderLength);
 }
 

@@ -6,6 +6,7 @@
 
 #include "charset/marc_control.h"
 #include "charset/octet_text.h"
+#include "charset/special_letters.h"
 #include "charset/unicode_case.h"
 #include "charset/unicode_category.h"
 #include "charset/utf8.h"
@@ -15,11 +16,6 @@
 namespace cantorel {
 
 namespace {
-
-// Special letters of the 8-bit sets, capital and small at matching places.
-constexpr std::string_view kSpecialUpper = "\x8A\x8C\x8E\x9F\xA1\xA2\xA3\xA4\xA5\xA6\xAC\xAD";
-constexpr std::string_view kSpecialLower = "\x9A\x9C\x9E\xFF\xB1\xB2\xB3\xB4\xB5\xB6\xBC\xBD";
-static_assert(kSpecialUpper.size() == kSpecialLower.size());
 
 // Signs that a word may begin with: they end the search for its first letter.
 // Raising passes over the hyphen, which lowering does not.
@@ -72,11 +68,16 @@ FirstLetter JudgeCategory(Category category, bool raising) {
 }
 
 // Changes the case of the first letter of text[start..], if a letter decides
-// before anything else does.
+// before anything else does.  Subfield codes on the way are no letters.
 std::string ChangeFirstLetter(std::string_view text, std::size_t start, bool raising, bool utf8) {
   std::string out(text.substr(0, start));
   std::size_t i = start;
   while (i < text.size()) {
+    if (text[i] == kDelimiter) {
+      out += text.substr(i, 2);
+      i += 2;
+      continue;
+    }
     const std::string_view character = utf8 ? Utf8CharAt(text, i) : text.substr(i, 1);
     const FirstLetter verdict =
         utf8 ? JudgeCategory(CategoryOf(character), raising) : JudgeOctet(character[0], raising);

@@ -133,18 +133,14 @@ std::string AddSpacesAroundDelimiters(std::string_view text) {
 std::string RemoveSpacesAroundDelimiters(std::string_view text) {
   BackwardText out(text.size());
   bool before_delimiter = false;  // the text to come stands right before a delimiter
-  bool any = false;
   for (std::size_t i = text.size(); i-- > 0;) {
     if (text[i] == ' ' && before_delimiter) continue;
     before_delimiter = text[i] == kDelimiter;
     if (before_delimiter && !out.Empty()) {
-      if (!any) out.DropBlanksAtEnd();
-      any = true;
-      if (!out.Empty()) {
-        const char code = out.TakeFront();
-        out.DropBlanksAtFront();
-        out.Prepend(code);
-      }
+      const char code = out.TakeFront();
+      out.DropBlanksAtFront();
+      out.DropBlanksAtEnd();
+      out.Prepend(code);
     }
     out.Prepend(text[i]);
   }

@@ -110,7 +110,10 @@ bool Utf8MarcRecordClass::FindSubfieldBackward() {
 
 bool Utf8MarcRecordClass::BeginSubfieldSearch(std::string_view codes) {
   subfield_at_top_ = subfield_at_bottom_ = false;
-  if (!codes.empty()) last_code_list_ = codes;
+  if (!codes.empty()) {
+    last_code_list_ = codes;
+    if (!HasField()) GoToSubfield(kNoRow);
+  }
   return HasField() && !last_code_list_.empty();
 }
 

@@ -20,6 +20,11 @@ bool IsUsableCode(char code) {
   return Octet(code) > ' ';
 }
 
+// The one character of a code argument.
+char CodeOf(std::string_view code) {
+  return code.size() == 1 && IsUsableCode(code[0]) ? code[0] : kUnusableCode;
+}
+
 // A blank counts as part of the text in 010, and in the $0 of an authority.
 bool KeepsBlanks(std::string_view tag, char format, char code) {
   return tag == "010" || (format == 'A' && code == '0');
@@ -111,8 +116,9 @@ void Utf8MarcRecordClass::SfdInsertAfter(std::string_view code, std::string_view
 void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::string_view text,
                                                bool after) {
   if (!HasField() || code.empty() || FldIsControl()) return;
-  if (HasSubfield())
-    return InsertSubfield(CurrentField(), code[0], table_.Arena().Keep(text), after);
+  if (HasSubfield()) {
+    return InsertSubfield(CurrentField(), CodeOf(code), table_.Arena().Keep(text), after);
+  }
   // Without a current subfield there is a place only in a field that has none.
   if (CurrentField().subfield_max == kNoRow) SfdAdd(code, text);
 }
@@ -120,8 +126,8 @@ void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::strin
 // Puts a subfield beside the current one; an empty text is not inserted.
 void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
                                          bool after) {
-  if (text.empty()) return;
   if (!KeepsBlanks(field.Tag(), format_code_, code)) text = Trim(text);
+  if (text.empty()) return;
   const std::int16_t beside = current_subfield_;
   const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kInserted);
   if (row == kNoRow) return;
@@ -179,7 +185,7 @@ std::string_view Utf8MarcRecordClass::ResolveDuplicateOclcNumber(std::string_vie
 
 void Utf8MarcRecordClass::SfdChange(std::string_view code, std::string_view text) {
   if (!HasSubfield() || FldIsControl()) return;
-  const char one = code.size() == 1 ? code[0] : kUnusableCode;
+  const char one = CodeOf(code);
   const bool is_010 = FldTagView() == "010";
   const bool keep_blanks = is_010 && (format_code_ != 'A' || one == '0');
   SubfieldRecord& subfield = CurrentSubfield();
@@ -241,7 +247,8 @@ void Utf8MarcRecordClass::GiveEndingTo245(const std::string& ending) {
     const FieldRecord& field = CurrentField();
     for (std::int16_t row = field.last_subfield; row != kNoRow;
          row = table_.Subfield(field, row).prev) {
-      if (!table_.Subfield(field, row).deleted) return AppendToSubfield(row, ".");
+      const SubfieldRecord& subfield = table_.Subfield(field, row);
+      if (!subfield.deleted) return ReplaceSubfieldText(row, std::string(subfield.text) + '.');
     }
     return;
   }
@@ -249,15 +256,18 @@ void Utf8MarcRecordClass::GiveEndingTo245(const std::string& ending) {
   std::int16_t row = CurrentSubfield().prev;
   while (row != kNoRow && table_.Subfield(field, row).deleted)
     row = table_.Subfield(field, row).prev;
-  if (row != kNoRow && !table_.Subfield(field, row).text.ends_with(ending)) {
-    AppendToSubfield(row, ending);
-  }
+  if (row == kNoRow) return;
+  const std::string_view text = table_.Subfield(field, row).text;
+  if (!text.ends_with(ending)) ReplaceSubfieldText(row, std::string(text) + ending);
 }
 
-void Utf8MarcRecordClass::AppendToSubfield(std::int16_t row, std::string_view ending) {
+// A new text in the same row; the rows of the field keep their numbers.
+void Utf8MarcRecordClass::ReplaceSubfieldText(std::int16_t row, std::string_view text) {
+  MarkChanged(CurrentField());
   SubfieldRecord& subfield = table_.Subfield(CurrentField(), row);
-  subfield.text = table_.Arena().Keep(std::string(subfield.text).append(ending));
+  subfield.text = table_.Arena().Keep(text);
   subfield.norms = SubfieldRecord::kNoNorms;
+  subfield.norm_set = character_set_out_;
 }
 
 // --- Order -------------------------------------------------------------------

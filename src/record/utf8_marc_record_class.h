@@ -518,6 +518,7 @@ class Utf8MarcRecordClass {
   std::string_view DataFieldText(std::string_view text);
   void ParseFieldText(std::int16_t row, std::string_view text);
   void ParseSubfields(FieldRecord& field, std::string_view text);
+  bool HasLive008() const;
   void FindDelimiters(std::string_view text);
   bool Is880InDisguise(std::string_view tag, std::string_view text) const;
   static void MarkChanged(FieldRecord& field) {
@@ -565,7 +566,7 @@ class Utf8MarcRecordClass {
   std::string_view ResolveDuplicateOclcNumber(std::string_view text);
   std::string GmdEnding();
   void GiveEndingTo245(const std::string& ending);
-  void AppendToSubfield(std::int16_t row, std::string_view ending);
+  void ReplaceSubfieldText(std::int16_t row, std::string_view text);
 
   // Fixed fields (fixed_fields.cpp).
   bool OnFixedField() const;
