@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "service/cantorel_class.h"
@@ -33,6 +34,21 @@ std::string TitleOf(Utf8MarcRecordClass& record) {
   return title;
 }
 
+// Bands of messages whose terms are a heading or a place.
+constexpr bool HoldsHeading(std::int32_t type) {
+  return type == 1 || type == 3 || type == 5;
+}
+
+// The component puts a "$" ahead of every letter "z" of a heading, in words as
+// well as in subfield codes.  People and programs are given the heading itself.
+void RemoveMarks(std::string& terms) {
+  std::string heading;
+  for (std::size_t i = 0; i < terms.size(); ++i) {
+    if (terms.compare(i, 2, "$z") != 0) heading += terms[i];
+  }
+  terms = std::move(heading);
+}
+
 void ReadMessages(CantorelClass& cantorel, std::vector<MessageAnswer>& messages) {
   const std::int32_t count = cantorel.ReturnedMessageCount();
   for (std::int32_t index = 1; index <= count; ++index) {
@@ -41,6 +57,7 @@ void ReadMessages(CantorelClass& cantorel, std::vector<MessageAnswer>& messages)
                         cantorel.ReturnedMessageText(), cantorel.ReturnedMessageTerms(),
                         cantorel.ReturnedMessageRecordIds(), cantorel.ReturnedMessageInstances()});
     std::string& terms = messages.back().terms;
+    if (HoldsHeading(messages.back().type)) RemoveMarks(terms);
     std::replace(terms.begin(), terms.end(), kDelimiter, '$');
   }
 }

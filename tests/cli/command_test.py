@@ -136,6 +136,12 @@ class CommandTest(unittest.TestCase):
                 self.assertEqual([m["type_name"] for m in answer["messages"]],
                                  [] if expected else ["382 non-productive"])
 
+    def test_a_heading_that_gave_nothing_reads_as_it_stands(self):
+        # The component itself would say "$aWalt$zes", a "$" ahead of every z.
+        done = run("heading", "--json", "Waltzes $z Brazil")
+        message, = json.loads(done.stdout)["messages"]
+        self.assertEqual(message["terms"], "$aWaltzes$zBrazil")
+
     def test_text(self):
         done = run("convert", "-", stdin=FLUTE)
         self.check(done, 0)
