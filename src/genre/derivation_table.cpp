@@ -4,6 +4,11 @@
 
 namespace cantorel {
 
+// Nothing is looked up in the table.
+void Music650To382Class::Private_655_TestAndAdd(std::string_view /*list*/, std::string_view /*key*/,
+                                                Utf8MarcRecordClass& /*record*/,
+                                                std::string& /*new_lines*/) {}
+
 void Music650To382Class::Private_655_Initialize(Utf8MarcRecordClass& /*record*/,
                                                 Utf8CharClass& /*char_object*/, bool& ok) {
   InitializeStyleQualifiers();

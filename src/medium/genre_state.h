@@ -3,6 +3,7 @@
 #ifndef CANTOREL_MEDIUM_GENRE_STATE_H_
 #define CANTOREL_MEDIUM_GENRE_STATE_H_
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,49 @@ struct GenreState {
   bool table_build_tried = false;
   bool table_built = false;
 
-  // Headings of the record under work, for the host: tag, indicators and text
-  // of those looked at, and comparison forms of those left out as excerpts, one
-  // a line.
+  // --- Of the record under work ------------------------------------------------
+
+  // For the host, one a line: tag, indicators and text of the headings looked
+  // at, and comparison forms of those left out as excerpts.
   std::string candidate_fields;
   std::string excluded_for_excerpts;
+
+  // Existing fields that a derived one may equal: key (tag, code and comparison
+  // form of each subfield that counts) to 1000 times the number of the line below
+  // (from 1) plus the field's pointer; 0 for a field that is new, negative for
+  // one that was rewritten.
+  StringMap<std::int32_t> existing_field_keys;
+  // Keys of existing 385 and 386 fields as if they had no source.
+  StringMap<bool> existing_keys_without_source;
+  std::vector<std::string> existing_field_lines;
+
+  bool canons_fugues_heading_seen = false;
+  bool canons_or_fugues_assigned = false;
+  bool big_band_method_seen = false;
+  bool scores_wanted = false;
+  bool notated_music_wanted = false;
+
+  // A phrase of the heading's subdivisions was understood.
+  bool subdivision_consumed = false;
+  // Comparison form of the subdivision met last.
+  std::string previous_subdivision;
+
+  // --- Of the heading under work -----------------------------------------------
+
+  std::string current_field_text;
+  // Delimiter, "3" and text of its first $3, or empty.
+  std::string subfield_3_part;
+  bool productive = false;   // it gave a field, subdivisions aside
+  bool field_added = false;  // a field was added since its $a was found
+
+  // What a reset for the next record forgets.
+  void ClearRecord() {
+    existing_field_keys.RemoveAll();
+    existing_keys_without_source.RemoveAll();
+    existing_field_lines.clear();
+    canons_fugues_heading_seen = false;
+    canons_or_fugues_assigned = false;
+  }
 
   // What a reset of every cache forgets.
   void ClearDictionaries() {

@@ -28,6 +28,7 @@ Music650To382Class::Music650To382Class(MusicSession& session)
 
 void Music650To382Class::Reset(bool rebuild) {
   report_.ClearCounts();
+  genre_.ClearRecord();
   if (rebuild) {
     vocabulary_.ClearInstrumentCache();
     report_.ClearAll();

@@ -133,17 +133,81 @@ class Music650To382Class {
   void CorrectRecord382(Utf8MarcRecordClass& record);
 
   // --- 655 and companions ----------------------------------------------------
+  //
+  // `new_lines` is everywhere the fields found so far, one a line: tag (3
+  // characters), indicators (2), text.  A Norm is the comparison form of a text.
 
-  // Subject headings and fixed fields into 655, 046, 370, 385 and 386.
+  // Subject headings and fixed fields into 655, 046, 370, 385 and 386.  Existing
+  // fields that equal a derived one are rewritten in `record`; new ones are only
+  // told.  A record that is not music (leader/06 other than c, d, j) gets none.
+  //   scratch_record  overwritten by look-ups
+  //   existing_lines  receives the existing fields of these kinds, as rewritten
+  //   new_lines       receives the fields to add
+  //   spare           no effect
   void Convert6xxTo655_Marc(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
                             Utf8CharClass& char_object, std::string& existing_lines,
                             std::string& new_lines, std::string& spare);
+  std::string Parm_ReturnedCandidateFields() const { return genre_.candidate_fields; }
+  std::string Parm_ExcludedForExcerpts() const { return genre_.excluded_for_excerpts; }
+
+  // The steps of the conversion.  They work on the record's current field.
+  void Private_655_CollectExistingFields(Utf8MarcRecordClass& record);
+  void Private_655_ProcessRecord(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
+                                 std::string& new_lines, std::string& spare);
+  // Whether the heading is of excerpts, from which no genre may be concluded.
+  bool Private_655_TestExcerpts(Utf8MarcRecordClass& record);
+  // A form of composition (008/18-19 or 047 $a, two letters).
+  void Private_655_TestCompositionCode(std::string_view code, Utf8MarcRecordClass& record,
+                                       std::string& new_lines);
+  // Adds a field of one subfield, with $2 unless `source` is empty, and with the
+  // $3 of the heading under work; or rewrites the existing field that it equals.
+  void Private_655_AddField(Utf8MarcRecordClass& record, std::string_view tag,
+                            std::string_view indicators, std::string_view code,
+                            std::string_view text, std::string_view source, std::string& new_lines);
+
+  // The heading lists (genre/heading_lists.cpp).  The current subfield is the $a
+  // that `text` was taken from.
+  //   strip_arranged  a final "ARRANGED" of the Norm is not looked at
+  void Private_655_TestHeading(std::string_view text, Utf8MarcRecordClass& record,
+                               std::string& new_lines, bool strip_arranged, bool& found);
+  // `key` and `value` receive the key looked up and what it gave.
+  void Private_655_List1_Comma(Utf8MarcRecordClass& record, std::string_view after_comma,
+                               std::string& key, std::string& value, std::string& new_lines,
+                               bool& found, std::string_view before_comma,
+                               std::string_view before_comma_norm);
+  void Private_655_List1_Parentheses(Utf8MarcRecordClass& record, std::string_view base_norm,
+                                     std::string_view parenthetical, std::string& new_lines,
+                                     bool& found);
+  // Position (from 1) of the "(" of the last complete group; 0 without one.
+  static std::int32_t Private_655_FindOpenParenthesis(std::string_view text);
+
+  // The derivation table (genre/derivation_table.cpp).  `list` is a section name
+  // such as "List3"; each numbered line of the key becomes a field.
+  void Private_655_TestAndAdd(std::string_view list, std::string_view key,
+                              Utf8MarcRecordClass& record, std::string& new_lines);
   // Style words that headings carry in parentheses, such as "(jazz)".
   void InitializeStyleQualifiers();
   // Builds "Music6xxTo655.txt" from its workbook when one is named.
   void Private_655_Initialize(Utf8MarcRecordClass& record, Utf8CharClass& char_object, bool& ok);
-  std::string Parm_ReturnedCandidateFields() const { return genre_.candidate_fields; }
-  std::string Parm_ExcludedForExcerpts() const { return genre_.excluded_for_excerpts; }
+  // "[U+0301]" into characters as a table is read: digits 0 to 9 only, which is
+  // deliberate; the first escape with a letter ends the decoding.
+  std::string Private_655_DecodeEscapes(std::string_view text) const;
+  // The same into and out of the table as it is built, with digits 0 to F.
+  std::string Private_655_Initialize_Translate(std::string_view text) const;
+  std::string Private_655_Initialize_TranslateBack(std::string_view text) const;
+  std::string Private_655_Initialize_CleanText(std::string_view text) const;
+  // Does nothing: no file for it is ever opened.
+  void Private_655_Initialize_ReportProblems(std::string_view /*list*/, std::int32_t /*row*/,
+                                             std::string_view /*text*/, std::int32_t /*file*/) {}
+
+  // Places (genre/places_and_dates.cpp): a $z and the $z behind it, if any.
+  void Private_655_AddPlace(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
+                            std::string_view first_z, std::string_view second_z,
+                            std::string& new_lines, std::string& spare, bool& found);
+  // Languages (genre/audience.cpp): leaves a message when none of `codes`, three
+  // letters each with blanks between, stands in the record.
+  void Private_655_TestLanguageCode(std::string_view codes, std::string_view language_name,
+                                    Utf8MarcRecordClass& record);
 
   // --- Messages and reports (indexes from 1) -----------------------------------
 
@@ -225,6 +289,11 @@ class Music650To382Class {
   void KeepFinishedField(Utf8MarcRecordClass& record);
   bool DeliverFields(Utf8MarcRecordClass& record, bool add_to_record, std::string& added_fields);
   std::int32_t OutcomeOf(bool added) const;
+
+  // Subdivisions of the heading under work (genre/): the current subfield.
+  void AddDates(Utf8MarcRecordClass& record, std::string& new_lines);
+  void TestSubdivisionPhrases(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
+                              std::string& new_lines, std::string& spare);
 
   MusicSession& session_;
   ConversionReport report_;
