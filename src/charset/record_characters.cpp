@@ -1,7 +1,6 @@
-// What a record answers about characters and scripts.
+// What a record answers about characters and the direction of writing.
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -22,18 +21,9 @@ bool IsLetterOf8BitSet(char c) {
          kSpecialLower.find(c) != std::string_view::npos;
 }
 
-// The script letter of one character; '\0' for none.
-char ScriptOf(std::string_view character) {
-  const std::uint32_t value = Utf8OctetValue(character);
-  for (const ScriptRange& range : kScriptRanges) {
-    if (value >= range.first && value <= range.last) return range.letter;
-  }
-  return '\0';
-}
-
 bool IsRightToLeft(std::string_view character) {
   if (character.size() != 2) return false;
-  const char script = ScriptOf(character);
+  const char script = ScriptOf(Utf8OctetValue(character));
   return script == kHebrew || script == kArabic;
 }
 
@@ -57,19 +47,6 @@ bool Utf8MarcRecordClass::ContainsRightToLeftCharacters(std::string_view text) {
     if (IsRightToLeft(Utf8CharAt(text, i))) return true;
   }
   return false;
-}
-
-std::string Utf8MarcRecordClass::VernacularDataCharacterize(std::string_view text) {
-  bool found[256] = {};
-  for (std::size_t i = 0; i < text.size(); i += Utf8AnnouncedOctets(text[i])) {
-    if (Octet(text[i]) >= 0x80) found[Octet(ScriptOf(Utf8CharAt(text, i)))] = true;
-  }
-  std::string letters;
-  for (const ScriptRange& range : kScriptRanges) {
-    if (found[Octet(range.letter)]) letters += range.letter;
-    found[Octet(range.letter)] = false;
-  }
-  return letters;
 }
 
 }  // namespace cantorel

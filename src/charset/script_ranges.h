@@ -39,6 +39,14 @@ inline constexpr ScriptRange kScriptRanges[] = {
     {0xE4B880, 0xE9BFBF, kIdeographs}, {0xEAB080, 0xED9EAE, kHangul},  // syllables
 };
 
+// The script letter of a character by its octet value; '\0' for none.
+constexpr char ScriptOf(std::uint32_t octet_value) {
+  for (const ScriptRange& range : kScriptRanges) {
+    if (octet_value >= range.first && octet_value <= range.last) return range.letter;
+  }
+  return '\0';
+}
+
 }  // namespace cantorel
 
 #endif  // CANTOREL_CHARSET_SCRIPT_RANGES_H_

@@ -74,11 +74,14 @@ void Utf8MarcRecordClass::SettleNorms() {
   for (std::int16_t row = 0; row < table_.Count(); ++row) SettleNorms(table_.Field(row));
 }
 
-std::string_view Utf8MarcRecordClass::SfdNormView() {
-  if (!HasSubfield()) return {};
-  SubfieldRecord& subfield = table_.Subfield(CurrentField(), current_subfield_);
-  if (subfield.norms == SubfieldRecord::kNoNorms) MakeNorms(CurrentField(), subfield);
+std::string_view Utf8MarcRecordClass::NormOfRow(const FieldRecord& field, std::int16_t row) {
+  SubfieldRecord& subfield = table_.Subfield(field, row);
+  if (subfield.norms == SubfieldRecord::kNoNorms) MakeNorms(field, subfield);
   return table_.Norms(subfield).v;
+}
+
+std::string_view Utf8MarcRecordClass::SfdNormView() {
+  return HasSubfield() ? NormOfRow(CurrentField(), current_subfield_) : std::string_view();
 }
 
 std::string_view Utf8MarcRecordClass::SfdNormNacoView() {

@@ -134,6 +134,17 @@ class FieldTable {
   // Takes the last field row off again.
   void RemoveLastField() { --count_; }
 
+  // The first live subfield with a code, from `row` on along the chain; kNoRow
+  // without one.
+  std::int16_t FindLive(const FieldRecord& field, char code, std::int16_t row) const {
+    while (row != kNoRow) {
+      const SubfieldRecord& subfield = Subfield(field, row);
+      if (subfield.code == code && !subfield.deleted) break;
+      row = subfield.next;
+    }
+    return row;
+  }
+
   // Gives the field one more subfield row, cleared, and returns its index, or
   // kNoRow when the field can hold no more.  References into the pool go stale.
   std::int16_t AppendSubfield(FieldRecord& field) {

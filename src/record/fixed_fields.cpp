@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <string>
 
+#include "charset/marc_control.h"
 #include "charset/octet_text.h"
 #include "platform/clock.h"
 #include "record/default_008.h"
-#include "record/field_007.h"
 #include "record/record_image.h"
 #include "record/safe_text.h"
 #include "record/utf8_marc_record_class.h"
@@ -22,7 +22,24 @@ constexpr std::string_view kHoldingsTypes = "uvxy";
 constexpr std::string_view kFixedTypes = "zqw";
 
 constexpr std::size_t k006Length = 18;
+
+// Lengths of an 007 that is begun from blanks.  For "d", "g" and "r" they are
+// not those that a subfielded 007 is rebuilt to, which is deliberate.
+struct Blank007 {
+  char category;
+  std::size_t length;
+};
+constexpr Blank007 kBlank007[] = {
+    {'a', 8}, {'c', 14}, {'d', 6},  {'f', 10}, {'g', 9}, {'h', 13}, {'k', 6}, {'m', 23},
+    {'o', 2}, {'q', 2},  {'r', 15}, {'s', 14}, {'t', 2}, {'v', 9},  {'z', 2},
+};
 constexpr std::size_t kUnknown007Length = 14;
+constexpr std::size_t kFilled007Length = 6;
+
+constexpr std::size_t k008Length = 40;
+constexpr std::size_t k008LengthHoldings = 32;
+constexpr std::size_t k008LengthQ = 15;
+constexpr std::size_t k008LengthW = 14;
 
 bool Contains(std::string_view list, char c) {
   return list.find(c) != std::string_view::npos;
@@ -76,23 +93,42 @@ bool TypeMayBecome(char present, char wanted) {
   return !Contains(kFixedTypes, present);
 }
 
+// An 007 of a category of material: blanks, for "m" and "r" with fill characters
+// at the end.
+std::string BlankField007(char category) {
+  const auto* known = std::find_if(std::begin(kBlank007), std::end(kBlank007),
+                                   [&](const auto& b) { return b.category == category; });
+  std::string text(known == std::end(kBlank007) ? kUnknown007Length : known->length, ' ');
+  if (category == 'm' || category == 'r') {
+    std::fill(text.end() - kFilled007Length, text.end(), kFill);
+  }
+  return text;
+}
+
+std::size_t Length008(char format) {
+  switch (format) {
+    case 'H':
+      return k008LengthHoldings;
+    case 'Q':
+      return k008LengthQ;
+    case 'W':
+      return k008LengthW;
+    default:
+      return k008Length;
+  }
+}
+
+// Today's date and blanks.
+std::string BlankField008(char format) {
+  std::string text = CurrentDateTime().substr(2, 6);
+  text.resize(Length008(format), ' ');
+  return text;
+}
+
 // The text an empty 006, 007 or 008 begins with before positions are written.
 std::string BlankFixedField(std::string_view tag, char format, std::string_view value) {
   if (tag == "006") return std::string(k006Length, ' ');
-  if (tag == "008") {
-    std::string text = CurrentDateTime().substr(2, 6);
-    text.resize(format == 'H' ? 32 : format == 'Q' ? 15 : format == 'W' ? 14 : 40, ' ');
-    return text;
-  }
-  const char category = value.empty() ? ' ' : value[0];
-  // The 007 of a sound of kind "d" is made 6 long, which is deliberate.
-  const int known = category == 'd'   ? 6
-                    : category == 'g' ? 9
-                    : category == 'r' ? 15
-                                      : Length007(category);
-  std::string text(known == 0 ? kUnknown007Length : static_cast<std::size_t>(known), ' ');
-  if (category == 'm' || category == 'r') text.replace(text.size() - 6, 6, "||||||");
-  return text;
+  return tag == "008" ? BlankField008(format) : BlankField007(value.empty() ? ' ' : value[0]);
 }
 
 }  // namespace
@@ -111,16 +147,16 @@ void Utf8MarcRecordClass::ChangeLeaderValue(std::int16_t position, std::string_v
   if (value.empty() || position < 0 || leader_.size() != kLeaderLength) return;
   if (static_cast<std::size_t>(position) + 1 + value.size() >= 26) return;
   const auto place = static_cast<std::size_t>(position);
-  std::string new_value(value);
   if (position == 6 && !TypeMayBecome(leader_[6], value[0])) return;
   if (position == 9 && value[0] != leader_[9]) {
-    if (value[0] != 'a') new_value[0] = ' ';
-    leader_.replace(place, new_value.size(), new_value);
-    CharacterSetOut(value[0] == 'a' ? "U" : "V");
+    const bool utf8 = value[0] == 'a';
+    leader_.replace(place, value.size(), value);
+    if (!utf8) leader_[place] = ' ';
+    CharacterSetOut(utf8 ? "U" : "V");
     return;
   }
   if (position == 6 && value[0] != leader_[6]) SettleNorms();
-  leader_.replace(place, std::min(new_value.size(), kLeaderLength - place), new_value);
+  leader_.replace(place, value.size(), value);
   if (position == 6 || position == 7) SetFormatCode({});
 }
 

@@ -10,6 +10,7 @@ namespace cantorel {
 namespace {
 
 constexpr std::string_view kOrganization = "(ocolc)";
+constexpr std::string_view kDigits = "0123456789";
 constexpr std::size_t kPlaces = 8;
 
 bool BeginsIgnoringCase(std::string_view text, std::string_view lower) {
@@ -26,16 +27,19 @@ bool IsOclcNumber(std::string_view text) {
   return text[2] == 'm' || text[2] == 'l' || text[2] == 'n' || (text[2] >= '1' && text[2] <= '9');
 }
 
-std::string CleanOclcNumber(std::string_view text, OclcNumberForm form) {
+std::string CleanOclcNumber(std::string_view whole, OclcNumberForm form) {
+  std::string_view text = whole;
   if (BeginsIgnoringCase(text, kOrganization)) text = From(text, kOrganization.size());
   text = Trim(text);
-  const std::size_t digits = std::min(text.find_first_of("0123456789"), text.size());
-  const std::string_view prefix = text.substr(0, digits);
-  std::string_view number = text.substr(digits);
-  while (number.size() > 1 && number[0] == '0') number.remove_prefix(1);
+  const std::size_t start = text.find_first_of(kDigits);
+  if (start == std::string_view::npos) return std::string(whole);
+  const std::string_view prefix = text.substr(0, start);
+  std::string_view number = text.substr(start);
+  while (number[0] == '0' && number.size() > 1 && IsAsciiDigit(number[1])) number.remove_prefix(1);
+  const std::size_t digits = std::min(number.find_first_not_of(kDigits), number.size());
   std::string out = "(OCoLC)";
   if (form.alphabetic_prefix) out += prefix;
-  if (form.leading_zeroes && number.size() < kPlaces) out.append(kPlaces - number.size(), '0');
+  if (form.leading_zeroes && digits < kPlaces) out.append(kPlaces - digits, '0');
   return out.append(number);
 }
 

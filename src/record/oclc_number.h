@@ -17,8 +17,9 @@ struct OclcNumberForm {
   bool leading_zeroes;     // digits filled up to eight places
 };
 
-// The number behind "(OCoLC)" in the form asked for.
-std::string CleanOclcNumber(std::string_view text, OclcNumberForm form);
+// The number behind "(OCoLC)" in the form asked for, what follows its digits
+// included.  A text without digits comes back as it is.
+std::string CleanOclcNumber(std::string_view whole, OclcNumberForm form);
 
 }  // namespace cantorel
 

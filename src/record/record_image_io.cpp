@@ -221,12 +221,6 @@ char* Utf8MarcRecordClass::WriteText(const FieldRecord& field, char* place) cons
   return place;
 }
 
-// A thesis note in any form is left as the cataloguer wrote it.
-bool Utf8MarcRecordClass::ParseThesisNote(std::string_view, std::string_view, std::string&,
-                                          std::string&, std::string&, std::string&) const {
-  return false;
-}
-
 // Thesis notes are recast on every writing; the property RdaReCast502Fields is
 // stored and asked by nobody, which is deliberate.
 void Utf8MarcRecordClass::BeforeRecordOut() {

@@ -108,13 +108,14 @@ bool Utf8MarcRecordClass::FindSubfieldBackward() {
   return subfield_found_;
 }
 
+// False when the search is not to run: a search by the codes remembered needs a
+// field and codes.  A search by codes of its own always runs, and without a field
+// finds nothing.
 bool Utf8MarcRecordClass::BeginSubfieldSearch(std::string_view codes) {
   subfield_at_top_ = subfield_at_bottom_ = false;
-  if (!codes.empty()) {
-    last_code_list_ = codes;
-    if (!HasField()) GoToSubfield(kNoRow);
-  }
-  return HasField() && !last_code_list_.empty();
+  if (codes.empty()) return HasField() && !last_code_list_.empty();
+  last_code_list_ = codes;
+  return true;
 }
 
 bool Utf8MarcRecordClass::SfdFindFirst(std::string_view codes, std::string_view text) {
@@ -208,14 +209,16 @@ void Utf8MarcRecordClass::Sfdboolean2(bool value) {
 std::int32_t Utf8MarcRecordClass::ExtractSubfield(std::string_view field_text,
                                                   std::string_view code, std::string& text,
                                                   std::int32_t start) {
-  text.clear();
-  if (code.empty()) return 0;
   const std::string sought = code.size() == 1 ? SfdDelim(code) : std::string(code);
   const std::size_t from = static_cast<std::size_t>(std::max(start, 1) - 1);
-  const std::size_t hit = field_text.find(sought, from);
-  if (hit == std::string_view::npos) return 0;
+  const std::size_t hit = sought.empty() ? std::string_view::npos : field_text.find(sought, from);
+  if (hit == std::string_view::npos) {
+    text.clear();
+    return 0;
+  }
   const std::size_t begin = hit + sought.size();
-  text = Trim(field_text.substr(begin, field_text.find(kDelimiter, begin) - begin));
+  // `text` may be the string that is searched.
+  text = std::string(Trim(field_text.substr(begin, field_text.find(kDelimiter, begin) - begin)));
   return static_cast<std::int32_t>(begin + 1);
 }
 

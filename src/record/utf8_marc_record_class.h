@@ -315,8 +315,7 @@ class Utf8MarcRecordClass {
 
   // --- Fixed fields (positions from 0) ---------------------------------------
 
-  // Empty for a stretch that reaches past the leader, and for any stretch of
-  // more than one character that touches its last position.
+  // Empty for a stretch that reaches past the leader.
   std::string GetLeaderValue(std::int16_t position, std::int16_t length) const;
   // A change of position 06 must stay in one kind of record; a change of
   // position 09 switches CharacterSetOut.
@@ -357,6 +356,90 @@ class Utf8MarcRecordClass {
   bool SfdOrderChanged() const { return subfield_order_changed_; }
   // Tags, blank-separated, in which a subfield stood or stands out of order.
   std::string FldsWithSfdsOutOfOrder() const { return fields_with_subfields_out_of_order_; }
+
+  // --- Record tests ----------------------------------------------------------
+  //
+  // Each answers true when it found a fault; `message` then holds a line a
+  // fault, joined by CR LF, and is empty otherwise.  No cursor moves.
+
+  // Live subfields without text: "500 has empty subfield $a".
+  bool TestRecordForEmptySubfields(std::string& message) const;
+  // Headings and titles of the image loaded that begin with another subfield
+  // than $a, or than the one that an authority's subdivision begins with: "245
+  // began with unexpected subfield $b".  Control subfields may stand ahead of
+  // it.  False without an image, and for holdings.
+  bool TestRecordForLeadingSubfield(std::string& message) const;
+  // Data fields of the image loaded with a delimiter before a blank, before
+  // another delimiter or at the end: "650 has 'blank' subfield", once a field.
+  bool TestRecordForBlankSubfieldCodes(std::string& message) const;
+  // Tag patterns, blank-separated, of the fields to be tested for empty
+  // subfields in authority, bibliographic and holdings records; fewer than three
+  // characters mean every data field.
+  std::string FieldsToTestForEmptySubfieldsAuth() const { return empty_test_auth_; }
+  void FieldsToTestForEmptySubfieldsAuth(std::string_view tags) { empty_test_auth_ = tags; }
+  std::string FieldsToTestForEmptySubfieldsBib() const { return empty_test_bib_; }
+  void FieldsToTestForEmptySubfieldsBib(std::string_view tags) { empty_test_bib_ = tags; }
+  std::string FieldsToTestForEmptySubfieldsHold() const { return empty_test_hold_; }
+  void FieldsToTestForEmptySubfieldsHold(std::string_view tags) { empty_test_hold_ = tags; }
+
+  // --- Questions to authority records ----------------------------------------
+
+  // True for an authority record with a 010, with a 035 $a of one of
+  // NationalAuthorityInstitutions or of a national prefix ("n ", "sh" ...), or
+  // with a 040 $a "DNLM".  `reason` is "010: " and the field, "035: " and the
+  // number, or empty.
+  bool NationalAuthorityRecord(std::string& reason);
+  // 040 $e "rda"; an authority record must also have 008/10 "z".
+  bool RdaRecord();
+  // For a current 4XX or 5XX of an authority record: its $w says that the
+  // heading is a former one (third character), that the reference is not to be
+  // shown (fourth); "n" and nothing at all say no.
+  bool FldIsFormerHeading() const;
+  bool FldIsSuppressedReference() const;
+  // FldIsFormerHeading for a field that is not in the record.
+  bool FldFormerHeading(std::string_view tag, std::string_view text) const;
+
+  // Series practice of a series authority record (MARC 21 authority 642 to 646),
+  // by the institution in $5: Dlc the Library of Congress ("DLC"), Dpcc the
+  // cooperative programme ("DPCC"), Local the institution of Nuc().  The answer
+  // is the $a of the first field of that institution, empty without one and in
+  // any other record.
+  // 642: a numbering as it is to be written, such as "v. 1".
+  std::string SeriesNumberingPatternDlc() const;
+  std::string SeriesNumberingPatternDpcc() const;
+  std::string SeriesNumberingPatternLocal() const;
+  // 644: "f" analysed in full, "p" in part, "n" not analysed.
+  std::string SeriesAnalysisPolicyDlc() const;
+  std::string SeriesAnalysisPolicyDpcc() const;
+  std::string SeriesAnalysisPolicyLocal() const;
+  // 645: "t" traced as here, "n" not traced.
+  std::string SeriesTracingPolicyDlc() const;
+  std::string SeriesTracingPolicyDpcc() const;
+  std::string SeriesTracingPolicyLocal() const;
+  // 646: "s" classed separately, "c" as a collection, "m" with the main series.
+  std::string SeriesClassificationPolicyDlc() const;
+  std::string SeriesClassificationPolicyDpcc() const;
+  std::string SeriesClassificationPolicyLocal() const;
+
+  // Takes the text of an unstructured 502 apart (record/thesis_note.h); `date`
+  // is 008/07-10.  False, and four empty parts, for a text that is not one of
+  // the usual forms or that has subfields other than $a.
+  static bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
+                              std::string& miscellaneous, std::string& institution,
+                              std::string& year);
+
+  // --- Standard numbers (see normalize/) -------------------------------------
+
+  // The form by which the numbers of 010, 020, 022 and 035 are compared; the
+  // text of any other tag comes back trimmed.
+  std::string NormalizeStandardNumber(std::string_view tag, std::string_view text) const;
+  // True when the check digit of an ISBN (10 or 13), ISSN or ISMN is right.
+  // Hyphens are not looked at.
+  static bool CheckISXN(std::string_view text);
+  // Without hyphens; text behind the number, such as " (pbk.)", comes along.
+  // Empty for a number that has no such form.
+  static std::string ConvertISBN13To10(std::string_view text);
+  static std::string ConvertISBN10To13(std::string_view text);
 
   // --- Safe strings ----------------------------------------------------------
   //
@@ -463,6 +546,13 @@ class Utf8MarcRecordClass {
   static bool ContainsRightToLeftCharacters(std::string_view text);
   // Letters of the scripts found (charset/script_ranges.h); empty for Latin text.
   static std::string VernacularDataCharacterize(std::string_view text);
+  // The same for the current field, by its escape sequences when it is MARC-8.
+  std::string FldCharacterizeVernacularData() const;
+  // Writing in another script than Latin, in the current field or subfield, or
+  // in any field: also in scripts that have no letter above.
+  bool FldContainsVernacularData() const;
+  bool SfdContainsVernacularData() const;
+  bool VernacularDataPresent() const;
 
   // --- XML text (see display/) -----------------------------------------------
 
@@ -494,9 +584,6 @@ class Utf8MarcRecordClass {
   bool LoadField(std::string_view tag, std::string_view text, std::string_view& text_of_001);
   void BeforeRecordOut();
   void RecastThesisNote();
-  bool ParseThesisNote(std::string_view text, std::string_view date, std::string& degree,
-                       std::string& miscellaneous, std::string& institution,
-                       std::string& year) const;
   std::size_t BodyLength(const FieldRecord& field) const;
   void WriteFields(char* directory, char* data);
   char* WriteText(const FieldRecord& field, char* place) const;
@@ -571,11 +658,24 @@ class Utf8MarcRecordClass {
   // Fixed fields (fixed_fields.cpp).
   bool OnFixedField() const;
 
+  // Questions to a record (record_tests.cpp, authority_questions.cpp,
+  // series_policy.cpp).
+  std::string_view TagsToTestForEmptySubfields() const;
+  template <typename Test>
+  bool TestImage(Test test, std::string& message) const;
+  std::int16_t NextLiveField(std::string_view tag, std::int16_t row) const;
+  bool IsNationalNumber(std::string_view norm) const;
+  bool IsReference(std::string_view tag) const;
+  bool ControlSubfieldSays(std::size_t position) const;
+  std::string SeriesPolicy(std::string_view tag, std::string_view institution) const;
+  bool HoldsVernacular(std::string_view text) const;
+
   // Comparison forms of a subfield, made when first asked for
   // (normalize/subfield_norms.cpp).  SettleNorms makes all that are pending,
   // before something that they depend on changes.
   void MakeNorms(const FieldRecord& field, SubfieldRecord& subfield);
   SubfieldNorms NormsOf(const FieldRecord& field, const SubfieldRecord& subfield);
+  std::string_view NormOfRow(const FieldRecord& field, std::int16_t row);
   void SettleNorms();
   void SettleNorms(const FieldRecord& field);
 
@@ -674,6 +774,9 @@ class Utf8MarcRecordClass {
   std::string field_order_folder_;
   std::string national_authority_institutions_ = "DLC DNLM CMalG-V";
   std::string nuc_;
+  std::string empty_test_auth_;
+  std::string empty_test_bib_;
+  std::string empty_test_hold_;
   bool remove_duplicate_oclc_numbers_ = false;
   bool remove_duplicative_035_fields_ = true;
   bool remove_oclc_alphabetic_prefix_ = false;
