@@ -84,6 +84,11 @@ bool IsCountedMedium(std::string_view term) {
   return term != "continuo" && term != "percussion" && term != "electronics";
 }
 
+bool IsCommonEnsemble(std::string_view norm) {
+  return norm == "ORCHESTRA" || norm == "STRING ORCHESTRA" || norm == "BAND" ||
+         norm.ends_with(" ENSEMBLE");
+}
+
 std::string_view StandardCombination(std::string_view item) {
   const std::string_view singular = Singular(item);
   for (const Combination& combination : kCombinations) {

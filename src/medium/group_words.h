@@ -26,6 +26,11 @@ bool BaritoneMeansHorn(std::string_view heading_text, std::string& term);
 // which take no count.  Case counts.
 bool IsCountedMedium(std::string_view term);
 
+// Whether a term in comparison form is an ensemble by its name alone, without a
+// vocabulary: an orchestra, a string orchestra, a band, or what ends in the word
+// itself.
+bool IsCommonEnsemble(std::string_view norm);
+
 // The 382 subfields ($a and $n) of a standard combination named by an item in
 // comparison form, singular or plural ("PIANO TRIO", "PIANO TRIOS"); empty for
 // any other item.

@@ -122,6 +122,18 @@ class Music650To382Class {
   void ConvertTitleMedium(std::string_view leader_type, std::string_view field_text,
                           Utf8MarcRecordClass& record, std::string_view record_id,
                           std::string& trailing, std::int32_t& result);
+  // Its three steps that can be asked for alone.  The title of a heading: its $t,
+  // or without one its $a, in comparison form or trimmed.
+  static void Convert650To382_SubfieldM_TitleExtract(std::string_view field_text, bool normalised,
+                                                     const Utf8MarcRecordClass& record,
+                                                     std::string& title);
+  // Adds counts to the performers of `text`, which is changed in place.
+  static void Convert650To382_SubfieldM_Parentheses(const Utf8MarcRecordClass& record,
+                                                    std::string& text);
+  // Checks every performer of `text` against the vocabulary, and writes the text
+  // with the preferred terms to `result`.
+  void Convert650To382_SubfieldM_Verify(std::string_view text, Utf8MarcRecordClass& record,
+                                        std::string& result);
 
   // The field finished last, in marked form.
   std::string Return_Finished382Field() const { return buffer_; }

@@ -3,16 +3,12 @@
 #include <cstdint>
 
 #include "charset/octet_text.h"
+#include "medium/group_words.h"
 #include "medium/music_650_to_382_class.h"
 
 namespace cantorel {
 
 namespace {
-
-bool NamesEnsemble(std::string_view norm) {
-  return norm == "ORCHESTRA" || norm == "STRING ORCHESTRA" || norm == "BAND" ||
-         norm.ends_with(" ENSEMBLE");
-}
 
 struct Performers {
   std::int64_t total = 0;
@@ -25,7 +21,7 @@ bool AddUpPerformers(Utf8MarcRecordClass& record, bool ensembles_take_e, Perform
   for (bool found = record.SfdMoveFirst(true); found;) {
     const std::string code = record.SfdCode();
     if (code == "a" || code == "b") {
-      const bool is_ensemble = NamesEnsemble(record.SfdNormView());
+      const bool is_ensemble = IsCommonEnsemble(record.SfdNormView());
       performers.has_ensemble |= is_ensemble;
       performer_code = code;
       if (!record.SfdMoveNext(true)) return false;
