@@ -125,8 +125,8 @@ bool Utf8MarcRecordClass::BeginFieldSearch(std::string_view tag_list, std::strin
 
 // A next search keeps what an empty argument leaves out.
 bool Utf8MarcRecordClass::ContinueFieldSearch(std::string_view tag_list, std::string_view text) {
-  if (!field_found_) return false;
   ClearAtEndFlags();
+  if (!field_found_) return false;
   if (!text.empty()) last_field_text_ = NormString(text, true, "V");
   RememberTagList(tag_list);
   if (last_tag_list_.empty()) FldPointer(kNoRow);
