@@ -5,10 +5,10 @@
 namespace cantorel {
 
 // No phrase is known: the subdivision goes on to the derivation table.
-void Music650To382Class::TestSubdivisionPhrases(Utf8MarcRecordClass& /*record*/,
-                                                Utf8MarcRecordClass& /*scratch_record*/,
-                                                std::string& /*new_lines*/,
-                                                std::string& /*spare*/) {}
+void Music650To382Class::Private_655_TestSubdivisionPhrases(Utf8MarcRecordClass& /*record*/,
+                                                            Utf8MarcRecordClass& /*scratch_record*/,
+                                                            std::string& /*new_lines*/,
+                                                            std::string& /*spare*/) {}
 
 // No language is looked for in the record, so that none is missed.
 void Music650To382Class::Private_655_TestLanguageCode(std::string_view /*codes*/,

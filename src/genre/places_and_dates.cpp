@@ -5,7 +5,8 @@
 namespace cantorel {
 
 // No time is read from a $y.
-void Music650To382Class::AddDates(Utf8MarcRecordClass& /*record*/, std::string& /*new_lines*/) {}
+void Music650To382Class::Private_655_AddDates(Utf8MarcRecordClass& /*record*/,
+                                              std::string& /*new_lines*/) {}
 
 // No authority is asked for a place, so that none is found.
 void Music650To382Class::Private_655_AddPlace(Utf8MarcRecordClass& /*record*/,

@@ -57,6 +57,18 @@ struct GenreState {
   bool productive = false;   // it gave a field, subdivisions aside
   bool field_added = false;  // a field was added since its $a was found
 
+  // What the walk over a record begins without.
+  void BeginRecordPass() {
+    candidate_fields.clear();
+    excluded_for_excerpts.clear();
+    big_band_method_seen = false;
+    scores_wanted = false;
+    notated_music_wanted = false;
+    subdivision_consumed = false;
+    previous_subdivision.clear();
+    subfield_3_part.clear();
+  }
+
   // What a reset for the next record forgets.
   void ClearRecord() {
     existing_field_keys.RemoveAll();

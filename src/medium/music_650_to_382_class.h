@@ -212,11 +212,18 @@ class Music650To382Class {
   void Private_655_Initialize_ReportProblems(std::string_view /*list*/, std::int32_t /*row*/,
                                              std::string_view /*text*/, std::int32_t /*file*/) {}
 
-  // Places (genre/places_and_dates.cpp): a $z and the $z behind it, if any.
+  // Dates (genre/places_and_dates.cpp): the current subfield is a $y.
+  void Private_655_AddDates(Utf8MarcRecordClass& record, std::string& new_lines);
+  // Places: a $z and the $z behind it, if any.
   void Private_655_AddPlace(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
                             std::string_view first_z, std::string_view second_z,
                             std::string& new_lines, std::string& spare, bool& found);
-  // Languages (genre/audience.cpp): leaves a message when none of `codes`, three
+  // Phrases of the current $v or $x (genre/audience.cpp); sets
+  // `subdivision_consumed` of the state for one that was understood.
+  void Private_655_TestSubdivisionPhrases(Utf8MarcRecordClass& record,
+                                          Utf8MarcRecordClass& scratch_record,
+                                          std::string& new_lines, std::string& spare);
+  // Languages: leaves a message when none of `codes`, three
   // letters each with blanks between, stands in the record.
   void Private_655_TestLanguageCode(std::string_view codes, std::string_view language_name,
                                     Utf8MarcRecordClass& record);
@@ -301,11 +308,6 @@ class Music650To382Class {
   void KeepFinishedField(Utf8MarcRecordClass& record);
   bool DeliverFields(Utf8MarcRecordClass& record, bool add_to_record, std::string& added_fields);
   std::int32_t OutcomeOf(bool added) const;
-
-  // Subdivisions of the heading under work (genre/): the current subfield.
-  void AddDates(Utf8MarcRecordClass& record, std::string& new_lines);
-  void TestSubdivisionPhrases(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
-                              std::string& new_lines, std::string& spare);
 
   MusicSession& session_;
   ConversionReport report_;

@@ -10,6 +10,7 @@
 
 namespace cantorel {
 
+class FieldSelector;
 class Utf8MarcRecordClass;
 
 struct MusicSession {
@@ -21,6 +22,8 @@ struct MusicSession {
   bool ensembles_take_e = true;
   // Answers to "is this an ensemble", kept for the life of the thread's set.
   EnsembleCache ensembles;
+  // The host's way of letting the user choose; null when it has none.
+  FieldSelector* field_selector = nullptr;
 };
 
 }  // namespace cantorel
