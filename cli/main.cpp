@@ -1,6 +1,7 @@
 // The cantorel command.
 
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -10,10 +11,14 @@
 #include "cli/exit_status.h"
 #include "cli/heading_command.h"
 #include "cli/options.h"
+#include "cli/terminal_selector.h"
 #include "service/cantorel_class.h"
 
 namespace cantorel::cli {
 namespace {
+
+// The value of MusicClassOperatingMode by which the user is asked.
+constexpr std::int32_t kAsk = 2;
 
 int Run(int argc, const char* const* argv) {
   Options options;
@@ -21,6 +26,13 @@ int Run(int argc, const char* const* argv) {
   if (!ParseOptions(argc, argv, options, status)) return status;
   CantorelClass cantorel;
   if (!Configure(cantorel, options.configuration_folder)) return kWrongCall;
+  TerminalSelector selector;
+  if (options.canons == kAsk && !selector.HasTerminal()) {
+    std::fprintf(stderr, "cantorel: --canons ask needs a terminal to ask in, and there is none\n");
+    return kWrongCall;
+  }
+  cantorel.MusicClassOperatingMode(options.canons);
+  cantorel.SelectFieldsWith(&selector);
   return options.command == Command::kHeading ? RunHeading(cantorel, options)
                                               : RunConvert(cantorel, options);
 }

@@ -12,6 +12,7 @@ namespace cantorel::cli {
 namespace {
 
 const std::map<std::string, std::int32_t> kModes = {{"382", 1}, {"655", 2}, {"all", 3}};
+const std::map<std::string, std::int32_t> kCanons = {{"message", 0}, {"assign", 1}, {"ask", 2}};
 const std::map<std::string, Format> kFormats = {{"text", Format::kText}, {"json", Format::kJson}};
 
 template <typename Value>
@@ -35,6 +36,7 @@ bool ParseOptions(int argc, const char* const* argv, Options& options, int& stat
   app.set_version_flag("--version", CANTOREL_VERSION);
 
   std::string mode = "all";
+  std::string canons = "message";
   std::string format = "text";
   bool json = false;
   std::vector<std::string> words;
@@ -50,6 +52,9 @@ bool ParseOptions(int argc, const char* const* argv, Options& options, int& stat
         ->type_name("DIR");
     AddChoice(*command, "--mode", mode, kModes,
               "Fields to derive: 382, 655 and companions, or all");
+    AddChoice(*command, "--canons", canons, kCanons,
+              "When 'Canons, fugues, etc.' may mean either: leave a message, assign both, or ask "
+              "in the terminal");
   }
   AddChoice(*convert, "--format", format, kFormats, "Form of the answers");
   convert->add_flag("--lines", options.lines,
@@ -72,6 +77,7 @@ bool ParseOptions(int argc, const char* const* argv, Options& options, int& stat
 
   options.command = heading->parsed() ? Command::kHeading : Command::kConvert;
   options.mode = kModes.at(mode);
+  options.canons = kCanons.at(canons);
   options.format = json ? Format::kJson : kFormats.at(format);
   if (options.files.empty()) options.files = {"-"};
   options.heading = Joined(words);

@@ -17,6 +17,7 @@ struct Options {
   Command command = Command::kConvert;
   std::string configuration_folder;  // empty: the one that comes with the program
   std::int32_t mode = 3;             // as AddFields takes it: 1 382, 2 655, 3 both
+  std::int32_t canons = 0;           // MusicClassOperatingMode: 0 message, 1 assign, 2 ask
   Format format = Format::kText;
   bool lines = false;
   std::vector<std::string> files;  // "-" is standard input; never empty

@@ -63,7 +63,8 @@ class Music650To382Class {
   // reads back empty.
   std::string AddTerminalPunctuationTo() const;
   void AddTerminalPunctuationTo(std::string_view tags);
-  // 0, 1 or 2; any other value is 0.
+  // What becomes of "Canons, fugues, etc.": 0 a message, 1 both genres, 2 the
+  // user chooses (the session's selector).  Any other value is 0.
   std::int32_t MusicClassOperatingMode() const { return operating_mode_; }
   void MusicClassOperatingMode(std::int32_t mode);
   // "yyyymmdd.hhnnss".  Writing 8 characters adds ".000000"; 15 characters

@@ -50,6 +50,10 @@ void CantorelClass::MusicClassOperatingMode(std::int32_t mode) noexcept {
   Answer([mode] { TheMusicClass().MusicClassOperatingMode(mode); });
 }
 
+void CantorelClass::SelectFieldsWith(FieldSelector* selector) noexcept {
+  Answer([selector] { TheMusicSession().field_selector = selector; });
+}
+
 std::string CantorelClass::MusicClassDateTimeStamp() const noexcept {
   return Answer([] { return TheMusicClass().MusicClassDateTimeStamp(); });
 }

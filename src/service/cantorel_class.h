@@ -24,6 +24,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/field_selection.h"
+
 namespace cantorel {
 
 // Results of AddFields.
@@ -77,9 +79,14 @@ class CantorelClass {
   // Tags, such as "382 655", whose fields end in a point.
   std::string AddTerminalPunctuationTo() const noexcept;
   void AddTerminalPunctuationTo(std::string_view tags) noexcept;
-  // 0, 1 or 2; any other value is 0.
+  // What becomes of a heading "Canons, fugues, etc." that nothing tells more of:
+  // 0 leaves a message, 1 adds both genres, 2 lets the user choose.  Any other
+  // value is 0.
   std::int32_t MusicClassOperatingMode() const noexcept;
   void MusicClassOperatingMode(std::int32_t mode) noexcept;
+  // Mode 2 asks the selector, which must stay until it is taken away; null, as at
+  // first, counts as a cancelled choice.
+  void SelectFieldsWith(FieldSelector* selector) noexcept;
   // "yyyymmdd.hhnnss".  Eight characters get ".000000"; fifteen are ignored,
   // which is deliberate; anything else stores the present moment.
   std::string MusicClassDateTimeStamp() const noexcept;

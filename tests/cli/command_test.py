@@ -125,7 +125,7 @@ class CommandTest(unittest.TestCase):
     def test_headings(self):
         for heading, expected in HEADINGS:
             with self.subTest(heading):
-                done = run("heading", "--json", heading)
+                done = run("heading", "--mode", "382", "--json", heading)
                 self.check(done, 0)
                 answer = json.loads(done.stdout)
                 self.assertEqual(answer["title"], heading)
@@ -138,12 +138,12 @@ class CommandTest(unittest.TestCase):
 
     def test_a_heading_that_gave_nothing_reads_as_it_stands(self):
         # The component itself would say "$aWalt$zes", a "$" ahead of every z.
-        done = run("heading", "--json", "Waltzes $z Brazil")
+        done = run("heading", "--mode", "382", "--json", "Waltzes $z Brazil")
         message, = json.loads(done.stdout)["messages"]
         self.assertEqual(message["terms"], "$aWaltzes$zBrazil")
 
     def test_text(self):
-        done = run("convert", "-", stdin=FLUTE)
+        done = run("convert", "--mode", "382", "-", stdin=FLUTE)
         self.check(done, 0)
         self.assertEqual(done.stdout.decode(),
                          "flute  Syrinx\n  add      382 01 $a flute $n 1 $s 1 $2 lcmpt\n\n")
@@ -157,7 +157,7 @@ class CommandTest(unittest.TestCase):
         self.assertEqual((same["result"], same["fields"]), (0, []))
 
     def test_samples(self):
-        answers = self.answers(SAMPLE)
+        answers = self.answers("--mode", "382", SAMPLE)
         self.assertEqual(len(answers), (SOURCE / "examples/music.txt").read_text().count("\n\n") + 1)
         self.assertTrue(all(a["title"] and a["control_number"] for a in answers))
         refused = [a for a in answers if a["result"] < 0]
