@@ -140,6 +140,7 @@ std::int16_t Utf8MarcRecordClass::AppendFieldRow(std::string_view tag, std::stri
   field.link_key = key.link;
   field.changed = true;
   SetTagAndIndicators(field, {kept_tag, 3}, pair.View());
+  SubfieldOrders(FamilyOf(format_code_)).Finish();
   current_field_ = row;
   current_subfield_ = kNoRow;
   field_found_ = true;

@@ -45,65 +45,104 @@ void Utf8MarcRecordClass::PlaceField(std::int16_t row, bool at_top) {
   PlaceByKey(row, at_top);
 }
 
+// The new row goes before the first live row of a greater key, at the top before
+// the first of its own key.  In a chain that stands in order it is looked for
+// from the end, so that a record whose fields arrive in order, as most do, asks
+// only its last field.
 void Utf8MarcRecordClass::PlaceByKey(std::int16_t row, bool at_top) {
   const std::string_view key = table_.Field(row).order_key;
-  // A record whose fields arrive in order, as most do, asks only its last field.
-  const FieldRecord& last = table_.Field(table_.Field(row).prev);
-  const bool same = last.order_key.data() == key.data();  // the one key of a record without order
-  if (!at_top && in_key_order_ && (same || last.order_key <= key)) return;
-  for (std::int16_t other = first_field_; other != row; other = table_.Field(other).next) {
-    const FieldRecord& candidate = table_.Field(other);
-    if (candidate.deleted) continue;
-    if (candidate.order_key > key || (at_top && candidate.order_key == key)) {
-      return MoveBefore(row, other);
+  const auto belongs_behind = [&](const FieldRecord& other) {
+    // A record without order has one key, which is known by its place.
+    if (!at_top && other.order_key.data() == key.data()) return false;
+    return at_top ? other.order_key >= key : other.order_key > key;
+  };
+  std::int16_t next = kNoRow;
+  if (in_key_order_) {
+    for (std::int16_t other = table_.Field(row).prev; other != kNoRow;) {
+      const FieldRecord& candidate = table_.Field(other);
+      if (!candidate.deleted) {
+        if (!belongs_behind(candidate)) break;
+        next = other;
+      }
+      other = candidate.prev;
+    }
+  } else {
+    for (next = first_field_; next != row; next = table_.Field(next).next) {
+      if (!table_.Field(next).deleted && belongs_behind(table_.Field(next))) break;
     }
   }
+  if (next != kNoRow && next != row) MoveBefore(row, next);
 }
 
+// An 880 without an occurrence number stands behind the first field of its key.
 void Utf8MarcRecordClass::PlacePaired880(std::int16_t row) {
   const std::string_view key = table_.Field(row).order_key;
   for (std::int16_t other = first_field_; other != row; other = table_.Field(other).next) {
     const FieldRecord& candidate = table_.Field(other);
     if (!candidate.deleted && candidate.order_key == key && candidate.link_key.empty()) {
-      return MoveAfter(row, other);
+      if (candidate.next != row && MayMove()) MoveAfter(row, other);
+      return;
     }
   }
-  in_key_order_ = false;
+  if (table_.Field(table_.Field(row).prev).order_key > key) in_key_order_ = false;
 }
 
 // Among fields of equal key those of one link stand together, an 880 right
 // behind the field that it pairs with.  This does not ask TestFieldOrder.
 void Utf8MarcRecordClass::PlaceByLink(std::int16_t row) {
   const FieldRecord& field = table_.Field(row);
-  for (std::int16_t other = first_field_; other != row; other = table_.Field(other).next) {
+  for (std::int16_t other = FirstOfKey(row); other != row; other = table_.Field(other).next) {
     const FieldRecord& candidate = table_.Field(other);
     const bool linked = candidate.order_key == field.order_key && !candidate.link_key.empty();
-    if (linked && candidate.link_key != field.link_key &&
-        field.link_key.starts_with(candidate.link_key)) {
-      return MoveAfter(row, other);
-    }
-    if (candidate.order_key > field.order_key || (linked && candidate.link_key >= field.link_key)) {
-      Unlink(row);
-      LinkBefore(row, other);
-      modified_ = field_order_changed_ = true;
-      return;
-    }
+    const bool partner = linked && candidate.link_key != field.link_key &&
+                         field.link_key.starts_with(candidate.link_key);
+    const bool stop =
+        candidate.order_key > field.order_key || (linked && candidate.link_key >= field.link_key);
+    if (!partner && !stop) continue;
+    if (partner && candidate.next == row) return;
+    if (make_no_change_) return ReportMisplaced();
+    if (partner) return MoveAfter(row, other);
+    Unlink(row);
+    LinkBefore(row, other);
+    modified_ = field_order_changed_ = true;
+    return;
   }
 }
 
+// A row that no row of the key of the new one, or of a greater key, stands
+// before.
+std::int16_t Utf8MarcRecordClass::FirstOfKey(std::int16_t row) const {
+  if (!in_key_order_) return first_field_;
+  const FieldRecord& field = table_.Field(row);
+  std::int16_t first = row;
+  for (std::int16_t other = field.prev; other != kNoRow; other = table_.Field(other).prev) {
+    const FieldRecord& candidate = table_.Field(other);
+    if (!candidate.deleted && candidate.order_key < field.order_key) break;
+    first = other;
+  }
+  return first;
+}
+
+// Whether a misplaced field may be moved; otherwise it is reported.
+bool Utf8MarcRecordClass::MayMove() {
+  if (test_field_order_ && !make_no_change_) return true;
+  ReportMisplaced();
+  return false;
+}
+
+void Utf8MarcRecordClass::ReportMisplaced() {
+  fields_out_of_order_ = true;
+  in_key_order_ = false;
+}
+
 void Utf8MarcRecordClass::MoveAfter(std::int16_t row, std::int16_t prev) {
-  if (table_.Field(prev).next == row) return;
   Unlink(row);
   LinkAfter(row, prev);
   modified_ = field_order_changed_ = true;
 }
 
 void Utf8MarcRecordClass::MoveBefore(std::int16_t row, std::int16_t next) {
-  if (!test_field_order_ || make_no_change_) {
-    fields_out_of_order_ = true;
-    in_key_order_ = false;
-    return;
-  }
+  if (!MayMove()) return;
   Unlink(row);
   LinkBefore(row, next);
   modified_ = field_order_changed_ = true;

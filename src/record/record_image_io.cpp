@@ -72,6 +72,8 @@ void Utf8MarcRecordClass::MarcRecordIn(std::string_view image) {
   is_authority_ = leader_[6] == 'z';
   character_encoding_scheme_.assign(1, leader_[9]);
   SetFormatCode({});
+  field_orders_.Prepare(FamilyOf(format_code_));
+  PrepareSubfieldOrder();
   LoadInCharacterSet(DecideCharacterSet());
   // A record whose fields or subfields were not in the expected order says at
   // once that it is changed.
@@ -268,6 +270,8 @@ void Utf8MarcRecordClass::NewRecord(std::string_view record_type,
   ChangeLeaderValue(7, no_level ? " " : bibliographic_level);
   ChangeLeaderValue(9, Utf8() ? "a" : " ");
   SetFormatCode({});
+  // The subfield order is left as it is, which is deliberate.
+  field_orders_.Prepare(FamilyOf(format_code_));
   const std::string now = CurrentDateTime();
   const std::string date = now.substr(2, 6);
   FldAdd("005", {}, now + ".0");

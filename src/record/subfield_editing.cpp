@@ -7,6 +7,7 @@
 #include "charset/marc_control.h"
 #include "charset/octet_text.h"
 #include "charset/utf8.h"
+#include "record/field_order_key.h"
 #include "record/oclc_number.h"
 #include "record/utf8_marc_record_class.h"
 
@@ -52,6 +53,19 @@ void Utf8MarcRecordClass::SfdAdd(std::string_view code, std::string_view text) {
   if (!HasField()) return;
   const char one = code.size() == 1 ? code[0] : ' ';
   AddSubfield(CurrentField(), one, table_.Arena().Keep(text));
+  if (one == '5') RefileLocalField(text);
+}
+
+// A note of an authority record that becomes one of the own institution stands
+// ahead of the others: it is taken out and added again.
+void Utf8MarcRecordClass::RefileLocalField(std::string_view subfield5) {
+  if (format_code_ != 'A' || table_.Full() || !IsLocalNote(FldTagView())) return;
+  if (RateLocal5(SfdDelim("5").append(subfield5), nuc_) == '9') return;
+  const std::string tag = FldTag();
+  const std::string indicators = FldInd();
+  const std::string text = FldText();
+  FldDelete();
+  FldAdd(tag, indicators, text);
 }
 
 // `text` must stay valid while the record is held.
@@ -123,14 +137,21 @@ void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::strin
   if (CurrentField().subfield_max == kNoRow) SfdAdd(code, text);
 }
 
-// Puts a subfield beside the current one; an empty text is not inserted.
+// Puts a subfield beside the current one, and from there to where the order
+// wants it.
 void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
                                          bool after) {
+  if (PutSubfieldBeside(field, code, text, after)) WalkIntoPlace();
+}
+
+// Puts a subfield beside the current one; an empty text is not inserted.
+bool Utf8MarcRecordClass::PutSubfieldBeside(FieldRecord& field, char code, std::string_view text,
+                                            bool after) {
   if (!KeepsBlanks(field.Tag(), format_code_, code)) text = Trim(text);
-  if (text.empty()) return;
+  if (text.empty()) return false;
   const std::int16_t beside = current_subfield_;
   const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kInserted);
-  if (row == kNoRow) return;
+  if (row == kNoRow) return false;
   MarkChanged(field);
   if (after) {
     LinkSubfields(field, row, table_.Subfield(field, beside).next);
@@ -141,7 +162,7 @@ void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::str
   }
   current_subfield_ = row;
   subfield_found_ = true;
-  WalkIntoPlace();
+  return true;
 }
 
 // Makes two rows neighbours; kNoRow stands for an end of the field.
@@ -150,15 +171,16 @@ void Utf8MarcRecordClass::LinkSubfields(FieldRecord& field, std::int16_t left, s
   (right == kNoRow ? field.last_subfield : table_.Subfield(field, right).prev) = left;
 }
 
-// A $6 always goes first.  It may change what the field is linked to.
+// A $6 always goes first, whatever the subfield order says.  It may change what
+// the field is linked to.
 void Utf8MarcRecordClass::SetLeading6(std::string_view text) {
   FieldRecord& field = CurrentField();
   std::string linked = SfdDelim("6").append(text);
   AppendText(field, linked);
   field.link_key = MakeFieldOrderKey(field.Tag(), field.Indicators(), linked).link;
   const bool found = GoToSubfieldForward(field.first_subfield, true);
-  if (found) return InsertSubfield(field, '6', text, false);
-  AddFirstSubfield(field, '6', text);
+  if (!found) return AddFirstSubfield(field, '6', text);
+  PutSubfieldBeside(field, '6', text, false);
 }
 
 // The number in the form that the settings ask for.  When another 035 holds the
@@ -298,10 +320,18 @@ bool Utf8MarcRecordClass::StepSubfield(SubfieldMove direction) {
   return true;
 }
 
+// Moves the current subfield one place, and on while the order wants it.
 void Utf8MarcRecordClass::ShiftSubfield(SubfieldMove direction) {
-  if (!HasSubfield() || !StepSubfield(direction)) return;
-  while (CompareSubfieldOrder(current_subfield_) == direction && StepSubfield(direction)) {
-  }
+  if (!HasSubfield()) return;
+  const bool left = direction == SubfieldMove::kLeft;
+  bool after_title = StandsAfterTitle(current_subfield_);
+  do {
+    const std::int16_t beside = left ? CurrentSubfield().prev : CurrentSubfield().next;
+    if (!StepSubfield(direction)) return;
+    if (table_.Subfield(CurrentField(), beside).code == 't') {
+      after_title = !left || StandsAfterTitle(current_subfield_);
+    }
+  } while (CompareSubfieldOrder(current_subfield_, after_title) == direction);
 }
 
 void Utf8MarcRecordClass::SfdShiftLeft() {
@@ -314,7 +344,8 @@ void Utf8MarcRecordClass::SfdShiftRight() {
 
 // Walks a new subfield to where the subfield order wants it, or reports it.
 void Utf8MarcRecordClass::WalkIntoPlace() {
-  const SubfieldMove direction = CompareSubfieldOrder(current_subfield_);
+  const std::int16_t row = current_subfield_;
+  const SubfieldMove direction = CompareSubfieldOrder(row, StandsAfterTitle(row));
   if (direction == SubfieldMove::kNone) return;
   // A $w moves without being recorded.
   const bool record = CurrentSubfield().code != 'w';

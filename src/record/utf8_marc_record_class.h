@@ -29,6 +29,8 @@
 #ifndef CANTOREL_RECORD_UTF8_MARC_RECORD_CLASS_H_
 #define CANTOREL_RECORD_UTF8_MARC_RECORD_CLASS_H_
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -36,7 +38,9 @@
 #include <vector>
 
 #include "charset/utf8_char_class.h"
+#include "record/field_orders.h"
 #include "record/field_table.h"
+#include "record/subfield_order_table.h"
 
 namespace cantorel {
 
@@ -337,17 +341,70 @@ class Utf8MarcRecordClass {
 
   // --- Order -----------------------------------------------------------------
 
-  // Folder of the order files; ends in a backslash.  Ignored while a record is
-  // held and for an empty value.
+  //
+  // Each family of formats has a table of field order and one of subfield order:
+  // authority ("A"), bibliographic ("B", "D", "F", "M", "P", "S", "U"), holdings
+  // ("H"), and one for all other codes.  A new object orders no fields; subfields
+  // stand by the defaults.  A table that is empty when a record of its family is
+  // loaded gets its defaults (NewRecord asks for those of the fields alone).
+  // Except for ClearSfdOrder, nothing here has an effect while a record is held:
+  // load an empty text first.
+
+  // Empties the table of field order of a family and turns pairing off, which is
+  // shared by "H" and the other codes and turned off by "H" alone.
+  void ClearFldOrder(std::string_view format_code);
+  // Adds a range of tags.  A field stands in the first range that holds its tag.
+  // Inside a range `kind` orders: 1 names ahead of name-titles, 2 the hundreds of
+  // the tag, 3 the second indicator and the thesaurus in $2, 4 the own $5 first
+  // (see Nuc), 5 relationship and heading of a reference, 6 the tag, 7 the $8,
+  // 11 the first indicator, 12 $3 and tag, 13 the $c.  9 is no order.  8 turns
+  // the pairing of 880 fields on, 10 after the practice of LC; for "880" alone
+  // they add no range, and for another range they count as 2, as does any other
+  // number.
+  void SetFldOrder(std::string_view format_code, std::string_view low_tag,
+                   std::string_view high_tag, std::int16_t kind);
+  // Replace the order of a family by its default.
+  void SetDefaultFldOrderAuth();
+  void SetDefaultFldOrderBib();
+  void SetDefaultFldOrderHold();
+  // A line for each range of "A", "B" or "H", ended by CR LF: "400-499 in
+  // reference order".  Empty for any other code.
+  std::string SummarizeFieldOrderInstructions(std::string_view format_code) const;
+  // What a 653 without second indicator sorts by among the subject headings;
+  // empty: ahead of them.
+  std::string SortingIndicatorFor653Field() const { return sorting_indicator_for_653_; }
+  void SortingIndicatorFor653Field(std::string_view value) { sorting_indicator_for_653_ = value; }
+
+  // Sets the order of the subfields of a tag ("XXX": of every tag without an own
+  // one) by a pattern; the language is told in record/subfield_pattern.h.
+  void SetSfdOrder(std::string_view format_code, std::string_view tag, std::string_view pattern);
+  void ClearSfdOrder(std::string_view format_code);
+  // Rows of the bibliographic table, whatever the format.
+  std::int16_t SfdMax() const;
+
+  // Folder of the order files "bibsup.cfg", "holdsup.cfg" and "authsup.cfg"; ends
+  // in a backslash.  Assigning another folder reads them (record/order_file.h).
+  // Without its file a family orders its fields by the hundreds of their tags
+  // and its subfields by the defaults.  An empty value is ignored.
   std::string FldOrderFolder() const { return field_order_folder_; }
   void FldOrderFolder(std::string_view folder);
+  // When true, what is read of the subfield orders is told in a new text file in
+  // DebugFilePath (which ends in its separator), or without one in the user's
+  // "My Documents".
+  bool DebugOn() const { return debug_on_; }
+  void DebugOn(bool value) { debug_on_ = value; }
+  std::string DebugFilePath() const { return debug_file_path_; }
+  void DebugFilePath(std::string_view folder) { debug_file_path_ = folder; }
+
   // When false, a misplaced field (subfield) is reported and not moved.
   bool TestFieldOrder() const { return test_field_order_; }
   void TestFieldOrder(bool value) { test_field_order_ = value; }
   bool TestSubfieldOrder() const { return test_subfield_order_; }
   void TestSubfieldOrder(bool value) { test_subfield_order_ = value; }
+  // When true, neither fields nor subfields are moved.
   bool MakeNoChange() const { return make_no_change_; }
   void MakeNoChange(bool value) { make_no_change_ = value; }
+  // When true, subfields stay in the order added and none is reported.
   bool IgnoreSfdOrder() const { return ignore_subfield_order_; }
   void IgnoreSfdOrder(bool value) { ignore_subfield_order_ = value; }
   bool FldsOutOfOrder() const { return fields_out_of_order_; }
@@ -564,7 +621,12 @@ class Utf8MarcRecordClass {
     std::string_view key;
     std::string_view link;
   };
-  enum class SubfieldMove { kNone, kLeft, kRight };
+  // What a key is made of: the tag and indicators that it sorts under.
+  struct SortedField {
+    std::string_view tag;
+    char indicators[2];
+    std::string_view text;
+  };
 
   bool HasField() const { return current_field_ >= 0; }
   bool HasSubfield() const { return HasField() && current_subfield_ >= 0; }
@@ -631,6 +693,9 @@ class Utf8MarcRecordClass {
   void PlaceByKey(std::int16_t row, bool at_top);
   void PlacePaired880(std::int16_t row);
   void PlaceByLink(std::int16_t row);
+  std::int16_t FirstOfKey(std::int16_t row) const;
+  bool MayMove();
+  void ReportMisplaced();
   void MoveBefore(std::int16_t row, std::int16_t next);
   void MoveAfter(std::int16_t row, std::int16_t prev);
   void ExchangeWithPrevious(std::int16_t row);
@@ -649,6 +714,8 @@ class Utf8MarcRecordClass {
   void ShiftSubfield(SubfieldMove direction);
   void WalkIntoPlace();
   void NoteFieldOutOfOrder();
+  bool PutSubfieldBeside(FieldRecord& field, char code, std::string_view text, bool after);
+  void RefileLocalField(std::string_view subfield5);
   void SetLeading6(std::string_view text);
   std::string_view ResolveDuplicateOclcNumber(std::string_view text);
   std::string GmdEnding();
@@ -681,9 +748,23 @@ class Utf8MarcRecordClass {
 
   // Order (field_order.cpp, subfield_order.cpp).
   OrderKey MakeFieldOrderKey(std::string_view tag, std::string_view indicators,
-                             std::string_view text) const;
+                             std::string_view text);
+  void AppendKeyOfKind(FieldOrderKind kind, const SortedField& field);
+  void AppendIndicator2(const SortedField& field);
   bool PairingIsOn() const;
-  SubfieldMove CompareSubfieldOrder(std::int16_t row) const;
+  bool IsLocalNote(std::string_view tag) const;
+  SubfieldOrderTable& SubfieldOrders(FormatFamily family) {
+    return subfield_orders_[static_cast<std::size_t>(family)];
+  }
+  const SubfieldOrderTable& SubfieldOrders(FormatFamily family) const {
+    return subfield_orders_[static_cast<std::size_t>(family)];
+  }
+  void PrepareSubfieldOrder();
+  void ReadSubfieldOrder(const std::string& file, FormatFamily family);
+  void WriteDebugText(const std::string& file, std::string_view section) const;
+  const SubfieldOrder& SubfieldOrderRowFor(const FieldRecord& field) const;
+  bool StandsAfterTitle(std::int16_t row) const;
+  SubfieldMove CompareSubfieldOrder(std::int16_t row, bool after_title) const;
 
   // Character sets (charset/).
   void SetCharacterSetOutLetter(char letter, bool lc_pattern);
@@ -745,6 +826,13 @@ class Utf8MarcRecordClass {
   std::string last_code_list_;
   std::string last_subfield_text_;
 
+  // Order.
+  FieldOrders field_orders_;
+  std::array<SubfieldOrderTable, kFormatFamilies> subfield_orders_;
+  std::string order_key_;  // the key under construction
+  std::string sorting_indicator_for_653_;
+  std::string field_order_folder_;
+
   // Record state.
   char format_code_ = 'B';
   bool is_authority_ = false;
@@ -771,7 +859,7 @@ class Utf8MarcRecordClass {
 
   // Settings.
   std::string ini_file_path_;
-  std::string field_order_folder_;
+  std::string debug_file_path_;
   std::string national_authority_institutions_ = "DLC DNLM CMalG-V";
   std::string nuc_;
   std::string empty_test_auth_;
@@ -790,6 +878,7 @@ class Utf8MarcRecordClass {
   bool test_subfield_order_ = true;
   bool make_no_change_ = false;
   bool ignore_subfield_order_ = false;
+  bool debug_on_ = false;
 };
 
 }  // namespace cantorel

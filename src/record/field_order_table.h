@@ -1,0 +1,78 @@
+// The order of the fields of one family of formats: a list of tag ranges.
+//
+// A field belongs to the first range that holds its tag.  Its order key begins
+// with the number of that row, so that the rows stand in the order in which the
+// fields of a record should; the kind of the row says what orders the fields
+// inside the range.
+
+#ifndef CANTOREL_RECORD_FIELD_ORDER_TABLE_H_
+#define CANTOREL_RECORD_FIELD_ORDER_TABLE_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace cantorel {
+
+// What orders the fields of a range.  The numbers are those of SetFldOrder.
+enum class FieldOrderKind : std::int16_t {
+  kNameTitle = 1,    // names ahead of name-titles (LCRI 21.30J)
+  kGeneric = 2,      // the hundreds of the tag
+  kIndicator2 = 3,   // the second indicator, then the thesaurus
+  kLocal = 4,        // the tag, the institution's own $5 first
+  kReference = 5,    // the relationship, then the heading
+  kTag = 6,          // the tag
+  kSubfield8 = 7,    // the sequence number in $8
+  kPaired = 8,       // no order: turns the pairing of 880 fields on
+  kNone = 9,         // no order at all
+  kPairedLc = 10,    // as kPaired, after the practice of LC
+  kIndicator1 = 11,  // the first indicator
+  kRda33x = 12,      // the part of the resource ($3), then the tag
+  kSubfieldC = 13,   // the text of $c
+};
+
+// The kind that a word of an order file names, in any case; kGeneric for an
+// unknown word.
+FieldOrderKind KindNamed(std::string_view word);
+
+// The words in which a summary tells a kind, with a blank ahead.
+std::string_view KindInWords(FieldOrderKind kind);
+
+class FieldOrderTable {
+ public:
+  void Clear() { rows_.clear(); }
+  bool Empty() const { return rows_.empty(); }
+
+  // Adds a row.  A tag is compared as text, so that any strings may be given.
+  void Add(std::string_view low, std::string_view high, FieldOrderKind kind);
+
+  // Closes the table with a row for all tags, unless it has one as its last.
+  void EnsureGenericRow();
+
+  struct Place {
+    std::size_t number;  // of the row, from 1
+    FieldOrderKind kind;
+  };
+  // The first row that holds the tag, or without one the last row.  Not to be
+  // asked of an empty table.
+  Place Find(std::string_view tag) const;
+
+  // A line "low-high in words" for each row, ended by CR LF.
+  std::string Summary() const;
+
+ private:
+  struct Row {
+    std::string low;
+    std::string high;
+    FieldOrderKind kind;
+    std::uint32_t low_octets;  // as numbers, for the search
+    std::uint32_t high_octets;
+  };
+  std::vector<Row> rows_;
+};
+
+}  // namespace cantorel
+
+#endif  // CANTOREL_RECORD_FIELD_ORDER_TABLE_H_
