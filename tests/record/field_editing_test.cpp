@@ -54,8 +54,7 @@ TEST_F(FieldEditing, AddSettlesIndicatorsAndText) {
       {{"003", "12", "$aDLC"}, "003DLC"},
       {{"245", "10", "$6245-01$ax"}, "88010$6245-01$ax"},
       {{"880", "10", "$6880-01$ax"}, "88010$6880-01$ax"},
-      {{"500", "  ", ""}, "500  "},
-  };
+      {{"500", "  ", ""}, "500  "}};
   for (const auto& [given, held] : cases) {
     Add(given[0], given[1], given[2]);
     EXPECT_EQ(Field(), held);
@@ -166,8 +165,7 @@ TEST_F(FieldEditing, PreservesLeadingNumericSubfields) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"$ax", "$3part$6880-01$ax"},
       {"$6880-02$ax", "$3part$6880-02$ax"},
-      {"$ax$3other", "$6880-01$ax$3other"},
-  };
+      {"$ax$3other", "$6880-01$ax$3other"}};
   record_.TestSubfieldOrder(false);
   for (const auto& [text, held] : cases) {
     Add("500", "  ", "$6880-01$3part$aold$0id");
@@ -217,16 +215,14 @@ TEST(IdentifySubfield6Pieces, SplitsALink) {
   struct Case {
     std::string_view text, tag, occurrence, rest;
   };
-  const Case cases[] = {
-      {"245-3/$1", "245", "03", "/$1"},
-      {"880-01", "880", "01", ""},
-      {"880-123 r", "880", "123", "/r"},
-      {"880", "880", "00", ""},
-      {"88", "88", "00", ""},
-      {"", "", "00", ""},
-      {"880-/r", "880", "00", ""},
-      {"100-02/(N/r", "100", "02", "/(N/r"},
-  };
+  const Case cases[] = {{"245-3/$1", "245", "03", "/$1"},
+                        {"880-01", "880", "01", ""},
+                        {"880-123 r", "880", "123", "/r"},
+                        {"880", "880", "00", ""},
+                        {"88", "88", "00", ""},
+                        {"", "", "00", ""},
+                        {"880-/r", "880", "00", ""},
+                        {"100-02/(N/r", "100", "02", "/(N/r"}};
   for (const Case& c : cases) {
     std::string tag, occurrence, rest;
     Utf8MarcRecordClass::IdentifySubfield6Pieces(c.text, tag, occurrence, rest);
@@ -248,8 +244,7 @@ TEST_F(FieldEditing, InsertsAGeneralMaterialDesignation) {
       {"245", "$aTitle", "map", "$aTitle$h[map]."},
       {"245", "$aTitle$bx", "map", "$aTitle$h[map]$bx"},
       {"245", "$aTitle.", "map (x)", "$aTitle$h[map (x)]."},
-      {"245", "$aTitle$hold", "map", "$aTitle$hold"},
-  };
+      {"245", "$aTitle$hold", "map", "$aTitle$hold"}};
   for (const Case& c : cases) {
     Add(c.tag, "10", c.text);
     record_.FldInsertSubfieldH(c.h);

@@ -132,26 +132,24 @@ TEST(CharacterizeCharacterSet, GoesByTheOctetsBehindTheLeader) {
   struct Case {
     std::string_view octets, answer;
   };
-  const Case cases[] = {
-      {"", "M"},
-      {"\xE2\x65\xA1\xFE", "M"},
-      {"\x1B", "M"},
-      {"\xC1", "Y"},
-      {"\xC0\x1B", "O"},
-      {"\xC6\x90", "V"},
-      {"\xC6\x90\x1B", "O"},
-      {"\xBE", "X"},
-      {"\xBE\x1B", "O"},
-      {"\xBE\xD0", "V"},
-      {"\xBE\xD0\x1B", "V"},
-      {"\xAF", "V"},
-      {"\xAF\x1B", "X"},
-      {"\xBB", "V"},
-      {"\xCD", "V"},
-      {"\xCE", "M Illegal character(s): 206"},
-      {"\x01\x7F\xFF\x1C\x91\xC7", "V Illegal character(s): 1 28 127 145 255"},
-      {"\x8F\x90\xDE\xDD", "V Illegal character(s): 143 222"},
-  };
+  const Case cases[] = {{"", "M"},
+                        {"\xE2\x65\xA1\xFE", "M"},
+                        {"\x1B", "M"},
+                        {"\xC1", "Y"},
+                        {"\xC0\x1B", "O"},
+                        {"\xC6\x90", "V"},
+                        {"\xC6\x90\x1B", "O"},
+                        {"\xBE", "X"},
+                        {"\xBE\x1B", "O"},
+                        {"\xBE\xD0", "V"},
+                        {"\xBE\xD0\x1B", "V"},
+                        {"\xAF", "V"},
+                        {"\xAF\x1B", "X"},
+                        {"\xBB", "V"},
+                        {"\xCD", "V"},
+                        {"\xCE", "M Illegal character(s): 206"},
+                        {"\x01\x7F\xFF\x1C\x91\xC7", "V Illegal character(s): 1 28 127 145 255"},
+                        {"\x8F\x90\xDE\xDD", "V Illegal character(s): 143 222"}};
   const Utf8MarcRecordClass record;
   for (const Case& c : cases) {
     const std::string data = "   " + std::string(c.octets) + "\x1E";

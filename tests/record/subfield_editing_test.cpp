@@ -31,11 +31,9 @@ TEST_F(SubfieldEditing, Make) {
   struct Case {
     std::string_view code, text, result, code_after;
   };
-  const Case cases[] = {
-      {"a", "x", "$ax", "a"},   {"ab", "x", "$ax", "a"}, {"$ab", "x", "$ax", "a"},
-      {" a ", "x", "$ax", "a"}, {"ab", "", "", "a"},     {"", "x", "", ""},
-      {"  ", "x", "", ""},      {"a", " ", "$a ", "a"},
-  };
+  const Case cases[] = {{"a", "x", "$ax", "a"},   {"ab", "x", "$ax", "a"}, {"$ab", "x", "$ax", "a"},
+                        {" a ", "x", "$ax", "a"}, {"ab", "", "", "a"},     {"", "x", "", ""},
+                        {"  ", "x", "", ""},      {"a", " ", "$a ", "a"}};
   for (const Case& c : cases) {
     std::string code = Text(c.code);
     EXPECT_EQ(Readable(Utf8MarcRecordClass::SfdMake(code, std::string(c.text))), c.result);
@@ -153,17 +151,15 @@ TEST_F(SubfieldEditing, DeletingADesignationKeepsItsEnding) {
   struct Case {
     std::string_view tag, text, held;
   };
-  const Case cases[] = {
-      {"245", "$aTitle$h[sound recording] /$cname", "$aTitle /$cname"},
-      {"245", "$aTitle /$h[sound recording] /$cname", "$aTitle /$cname"},
-      {"245", "$aTitle$hmap :$bx", "$aTitle :$bx"},
-      {"245", "$aTitle$h[map]", "$aTitle."},
-      {"245", "$aTitle 2$h[map]", "$aTitle 2."},
-      {"245", "$aTitle?$h[map]", "$aTitle?"},
-      {"245", "$h[map] /$cname", "$cname"},
-      {"830", "$aSeries$h[map] ;$v1", "$aSeries$v1"},
-      {"740", "$aTitle$h[map] /", "$aTitle"},
-  };
+  const Case cases[] = {{"245", "$aTitle$h[sound recording] /$cname", "$aTitle /$cname"},
+                        {"245", "$aTitle /$h[sound recording] /$cname", "$aTitle /$cname"},
+                        {"245", "$aTitle$hmap :$bx", "$aTitle :$bx"},
+                        {"245", "$aTitle$h[map]", "$aTitle."},
+                        {"245", "$aTitle 2$h[map]", "$aTitle 2."},
+                        {"245", "$aTitle?$h[map]", "$aTitle?"},
+                        {"245", "$h[map] /$cname", "$cname"},
+                        {"830", "$aSeries$h[map] ;$v1", "$aSeries$v1"},
+                        {"740", "$aTitle$h[map] /", "$aTitle"}};
   for (const Case& c : cases) {
     Begin(c.tag, c.text);
     GoTo("h");
