@@ -16,4 +16,5 @@ configure_package_config_file(cmake/cantorelConfig.cmake.in cantorelConfig.cmake
 write_basic_package_version_file(cantorelConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/cantorelConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/cantorelConfigVersion.cmake
+              cmake/FindLibZip.cmake
         DESTINATION ${package_folder})
