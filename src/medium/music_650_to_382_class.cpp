@@ -37,10 +37,7 @@ void Music650To382Class::Reset(bool rebuild) {
     genre_.ClearDictionaries();
   }
   SettleConfigurationFolder();
-  if (session_.second_record == nullptr) return;
-  bool table_was_built = false;
-  Private_655_Initialize(*session_.second_record, session_.second_record->CharClass(),
-                         table_was_built);
+  InitializeStyleQualifiers();
 }
 
 void Music650To382Class::SettleConfigurationFolder() {
