@@ -4,11 +4,15 @@
 usage: command_test.py COMMAND SOURCE_FOLDER [TEST...]
 """
 
+import fcntl
 import json
+import os
+import pty
 import shutil
 import subprocess
 import sys
 import tempfile
+import termios
 import unittest
 from pathlib import Path
 
@@ -22,6 +26,19 @@ def run(*arguments, stdin=b"", **options):
     options.setdefault("stdout", subprocess.PIPE)
     return subprocess.run([COMMAND, *map(str, arguments)], input=stdin,
                           stderr=subprocess.PIPE, timeout=120, **options)
+
+
+def run_in_terminal(typed, *arguments):
+    """What the command writes, and what the terminal it was started from shows."""
+    master, slave = pty.openpty()
+    os.write(master, typed)
+    done = subprocess.run([COMMAND, *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.PIPE, timeout=120, start_new_session=True,
+                          preexec_fn=lambda: fcntl.ioctl(slave, termios.TIOCSCTTY, 0))
+    shown = os.read(master, 65536).decode()
+    os.close(master)
+    os.close(slave)
+    return done, shown
 
 
 def image(*fields, record_type="c"):
@@ -142,6 +159,25 @@ class CommandTest(unittest.TestCase):
         message, = json.loads(done.stdout)["messages"]
         self.assertEqual(message["terms"], "$aWaltzes$zBrazil")
 
+    def test_canons_and_fugues(self):
+        def genres(done):
+            self.check(done, 0)
+            return [f["subfields"][0][1] for f in json.loads(done.stdout)["fields"]]
+        call = ["heading", "--mode", "655", "--json", "Canons, fugues, etc."]
+        for choice, expected in (("message", []), ("assign", ["Canons", "Fugues"])):
+            done = run(*call, "--canons", choice)
+            self.assertEqual(genres(done), expected)
+            texts = [m["text"] for m in json.loads(done.stdout)["messages"]]
+            self.assertEqual("Form/genre 'Canons' or 'Fugues' not assigned" in texts, not expected)
+        for typed, expected in ((b"\n", ["Canons", "Fugues"]), (b"3\nCanons\n2\n", ["Fugues"]),
+                                (b"2, 1\n", ["Canons", "Fugues"]), (b"none\n", []), (b"0\n", []),
+                                (b"\x04", [])):
+            done, shown = run_in_terminal(typed, *call, "--canons", "ask")
+            self.assertEqual(genres(done), expected, typed)
+            self.assertIn("  2  655 Fugues $2lcgft", shown)
+        self.check(run(*call, "--canons", "ask", start_new_session=True), 2,
+                   "--canons ask needs a terminal")
+
     def test_text(self):
         done = run("convert", "--mode", "382", "-", stdin=FLUTE)
         self.check(done, 0)
@@ -214,7 +250,7 @@ class CommandTest(unittest.TestCase):
 
     def test_wrong_calls(self):
         for call in ([], ["convert", "--mode", "383"], ["convert", "--frob"], ["heading"],
-                     ["convert", "--format", "xml"], ["transmute"]):
+                     ["convert", "--format", "xml"], ["convert", "--canons", "both"], ["transmute"]):
             self.check(run(*call), 2, "cantorel: ")
         self.check(run("--help"), 0)
 

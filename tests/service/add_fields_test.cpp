@@ -137,12 +137,38 @@ TEST_F(AddFields, LeavesOutWhatItDoesNotDerive) {
 
 TEST_F(AddFields, ConvertsNothingInOtherModesButConcludesChamberMusic) {
   const std::vector<SampleField> fields = {kNumber, {"382", "01", kFlutePiano}, kSonata};
-  for (const std::int32_t mode : {0, 2, 4, -1}) {
+  for (const std::int32_t mode : {0, 4, -1}) {
     EXPECT_THAT(Lines(fields, mode), ElementsAre("0 655  7 $aChamber music$2lcgft")) << mode;
     EXPECT_THAT(Lines({kNumber, kSonata}, mode), IsEmpty()) << mode;
   }
   cantorel_.AddTerminalPunctuationTo("655");
   EXPECT_THAT(Lines(fields, 0), ElementsAre("0 655  7 $aChamber music.$2lcgft"));
+}
+
+// Genres that the record has stay in the record under work: one that reads
+// differently is replaced where it stands, one that reads the same is passed
+// over in silence, and so are those that nothing stands for.
+TEST_F(AddFields, ComparesGenresWithThoseOfTheRecord) {
+  const SampleField kPieces = {"008", "", "850101s1985    xxusypd f              n eng d"};
+  struct {
+    std::string_view genre;
+    std::vector<std::string> expected;
+  } cases[] = {
+      {"$aPiano scores$2lcgft", {}},
+      {"$aPiano scores.$2lcgft$0x$926", {"26 655  7 $aPiano scores$2lcgft$0x"}},
+      {"$aPiano scores.$2lcgft", {"3 655  7 $aPiano scores$2lcgft"}},
+      {"$aPiano scores$2gsafd", {"0 655  7 $aPiano scores$2lcgft"}},
+      {"$2lcgft$aPiano scores", {}},
+  };
+  for (const auto& test : cases) {
+    std::vector<std::string> expected = test.expected;
+    expected.push_back("0 655  7 $aPreludes (Music)$2lcgft");
+    expected.push_back("0 655  7 $aParts (Music)$2lcgft");
+    EXPECT_THAT(
+        Lines({kNumber, kPieces, kTitle, {"655", " 7", test.genre}, {"047", "  ", "$apr"}}, 2),
+        ::testing::UnorderedElementsAreArray(expected))
+        << test.genre;
+  }
 }
 
 TEST_F(AddFields, KeepsTheLinesBeforeWhenACallIsRefused) {
