@@ -58,6 +58,17 @@ constexpr std::string_view LastWord(std::string_view text) {
   return text.substr(text.rfind(' ') + 1);
 }
 
+// Position of the "(" of the last complete parenthesis, which may hold others
+// and have text behind it; npos without one.
+constexpr std::size_t FindLastGroup(std::string_view text) {
+  std::ptrdiff_t depth = 0;
+  for (std::size_t i = text.size(); i-- > 0;) {
+    if (text[i] == ')') ++depth;
+    if (text[i] == '(' && depth-- == 1) return i;
+  }
+  return std::string_view::npos;
+}
+
 // True when a word can be a count: it begins with a digit from 1 to 9.
 constexpr bool BeginsWithCount(std::string_view word) {
   return !word.empty() && word.front() >= '1' && word.front() <= '9';

@@ -61,23 +61,13 @@ bool IsUncountedFamily(std::string_view medium, std::string_view title) {
                       [title](std::string_view word) { return ContainsNoCase(title, word); });
 }
 
-// Position of the "(" that pairs with the ")" at the end of a text, or npos.
-std::size_t OpeningOfLastParenthesis(std::string_view text) {
-  std::size_t depth = 0;
-  for (std::size_t i = text.size(); i-- > 0;) {
-    if (text[i] == ')') ++depth;
-    if (text[i] == '(' && --depth == 0) return i;
-  }
-  return std::string_view::npos;
-}
-
 // Takes the number of hands off the end of a medium, "piano (4 hands)".  A bare
 // number goes as well, so that "violins (2)" is counted as one violin, which is
 // deliberate.  False when the hands stand without a parenthesis, or the
 // parenthesis is not whole.
 bool SettleLastParenthesis(std::string& medium) {
   if (!medium.ends_with(')')) return !ContainsNoCase(medium, "hands");
-  const std::size_t open = OpeningOfLastParenthesis(medium);
+  const std::size_t open = FindLastGroup(medium);
   if (open == std::string::npos) return false;
 
   std::string inside = medium.substr(open + 1, medium.size() - open - 2);
