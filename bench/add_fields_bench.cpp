@@ -16,7 +16,7 @@ namespace {
 void AddFields(benchmark::State& state) {
   const auto mode = static_cast<std::int32_t>(state.range(0));
   CantorelClass cantorel;
-  cantorel.ConfigurationPath(CANTOREL_CONFIG);
+  cantorel.ConfigurationPath(ConfigurationFolder());
   std::size_t position = 0;
   std::int64_t octets = 0;
   for (auto _ : state) {

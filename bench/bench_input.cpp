@@ -12,9 +12,13 @@
 namespace cantorel::bench {
 namespace {
 
+std::string Environment(const char* name, const char* otherwise) {
+  const char* const value = std::getenv(name);
+  return value != nullptr ? value : otherwise;
+}
+
 std::vector<std::string> ReadRecords() {
-  const char* const named = std::getenv("CANTOREL_BENCH_FILE");
-  const std::string file = named != nullptr ? named : CANTOREL_SAMPLE;
+  const std::string file = Environment("CANTOREL_BENCH_FILE", CANTOREL_SAMPLE);
   cli::FileSource source(file);
   cli::Iso2709Reader reader(source);
   Utf8MarcRecordClass record;
@@ -47,6 +51,10 @@ std::vector<Heading> ReadHeadings() {
 }
 
 }  // namespace
+
+std::string ConfigurationFolder() {
+  return Environment("CANTOREL_BENCH_CONFIG", CANTOREL_CONFIG);
+}
 
 const std::vector<std::string>& Records() {
   static const std::vector<std::string> records = ReadRecords();

@@ -14,6 +14,9 @@ namespace cantorel::bench {
 // without a record ends the program.
 const std::vector<std::string>& Records();
 
+// The configuration folder that CANTOREL_BENCH_CONFIG names, or the starter one.
+std::string ConfigurationFolder();
+
 // A subject heading, and leader/06 of its record.
 struct Heading {
   std::string record_type;

@@ -15,7 +15,7 @@ namespace {
 
 void Convert650To382Text(benchmark::State& state) {
   CantorelClass cantorel;
-  cantorel.ConfigurationPath(CANTOREL_CONFIG);
+  cantorel.ConfigurationPath(ConfigurationFolder());
   cantorel.AddFields({}, 1);  // prepares what a first call prepares
   Utf8MarcRecordClass record;
   std::string trailing;
