@@ -156,6 +156,10 @@ TEST_F(HeadingListsTest, ReadsQualifiersBehindCommas) {
       {"Violin and piano music, Unaccompanied", "-"},
       {"Masses, Unaccompanied, Arranged", "+Arrangements (Music); Masses"},
   });
+  record_.CharacterSetOut("M");
+  Expect({{"Yaksagana plays, English",
+           "+Yaks\xF2"
+           "aga\xE5na plays"}});
 }
 
 TEST_F(HeadingListsTest, ReadsParentheses) {
