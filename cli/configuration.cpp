@@ -6,7 +6,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "genre/derivation_table_build.h"
 #include "platform/file_layer.h"
+#include "record/utf8_marc_record_class.h"
 #include "service/cantorel_class.h"
 
 namespace cantorel::cli {
@@ -37,7 +39,7 @@ std::string FolderOfProgram() {
   return {};
 }
 
-bool Configure(CantorelClass& cantorel, std::string folder) {
+bool FindFolder(std::string& folder) {
   if (folder.empty()) folder = FolderOfProgram();
   if (folder.empty()) {
     std::fprintf(stderr,
@@ -46,19 +48,25 @@ bool Configure(CantorelClass& cantorel, std::string folder) {
     return false;
   }
   std::error_code error;
-  // The whole path, because the component has a meaning of its own for "me".
-  const std::string path = fs::absolute(folder, error).string();
+  const fs::path path = fs::absolute(folder, error);
   if (error || !fs::is_directory(path, error)) return Refuse(folder, "is not there");
+  folder = (path / "").string();
+  return true;
+}
 
-  cantorel.ConfigurationPath(path);
-  if (!FileExists(cantorel.ConfigurationPath() + std::string(kVocabulary))) {
+bool Configure(CantorelClass& cantorel, std::string folder) {
+  if (!FindFolder(folder)) return false;
+  // The whole path, because the component has a meaning of its own for "me".
+  cantorel.ConfigurationPath(folder);
+  if (!FileExists(folder + std::string(kVocabulary))) {
     return Refuse(folder, "has no " + std::string(kVocabulary));
   }
   // The component looks for the table at its first call, whatever it is given.
-  if (cantorel.AddFields({}, 1) == kNoDerivationTable) {
-    return Refuse(folder, "has no usable " + std::string(kDerivationTable));
-  }
-  return true;
+  if (cantorel.AddFields({}, 1) != kNoDerivationTable) return true;
+  DerivationBuild build;
+  BuildDerivationTable(folder, Utf8MarcRecordClass(), build);
+  return Refuse(folder, "has no usable " + std::string(kDerivationTable) +
+                            ", and none can be made: " + WhyNotWritten(build));
 }
 
 }  // namespace cantorel::cli

@@ -16,6 +16,11 @@ namespace cantorel::cli {
 // there is none.
 std::string FolderOfProgram();
 
+// The whole path of a folder (the program's own when it is empty) with a
+// separator at its end.  False, with a line on standard error, when it is not
+// there.
+bool FindFolder(std::string& folder);
+
 // Sets the folder (the program's own when `folder` is empty) and sees that the
 // component can work with it.  False, with a line on standard error, when not.
 bool Configure(CantorelClass& cantorel, std::string folder);

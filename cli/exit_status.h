@@ -8,6 +8,7 @@ namespace cantorel::cli {
 enum ExitStatus : int {
   kAllWell = 0,
   kUnreadableRecords = 1,  // some records could not be read; the others were answered
+  kSomethingFound = 1,     // a check found what should be looked at
   kWrongCall = 2,          // wrong options, or no configuration folder to work with
   kInputOutputFailed = 3,  // reading a file or writing the answers failed
 };

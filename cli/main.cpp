@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 
+#include "cli/config_command.h"
 #include "cli/configuration.h"
 #include "cli/convert_command.h"
 #include "cli/exit_status.h"
@@ -24,6 +25,8 @@ int Run(int argc, const char* const* argv) {
   Options options;
   int status = kAllWell;
   if (!ParseOptions(argc, argv, options, status)) return status;
+  if (options.command == Command::kConfigBuild) return RunConfigBuild(options);
+  if (options.command == Command::kConfigCheck) return RunConfigCheck(options);
   CantorelClass cantorel;
   if (!Configure(cantorel, options.configuration_folder)) return kWrongCall;
   TerminalSelector selector;

@@ -45,11 +45,20 @@ bool ParseOptions(int argc, const char* const* argv, Options& options, int& stat
       app.add_subcommand("convert", "Read MARC records and write the fields that each should have");
   CLI::App* const heading = app.add_subcommand(
       "heading", "Show what one subject heading gives; $v, $x and so on may follow it");
-  for (CLI::App* const command : {convert, heading}) {
+  CLI::App* const config =
+      app.add_subcommand("config", "Build and check the files of the configuration folder");
+  config->require_subcommand(1);
+  CLI::App* const build = config->add_subcommand(
+      "build", "Make the derivation table from its workbook, and say what each sheet gave");
+  CLI::App* const check = config->add_subcommand(
+      "check", "List what a maintainer of vocabulary, table and workbook should look at");
+  for (CLI::App* const command : {convert, heading, build, check}) {
     command
         ->add_option("--config", options.configuration_folder,
                      "Configuration folder (default: the one that comes with the program)")
         ->type_name("DIR");
+  }
+  for (CLI::App* const command : {convert, heading}) {
     AddChoice(*command, "--mode", mode, kModes,
               "Fields to derive: 382, 655 and companions, or all");
     AddChoice(*command, "--canons", canons, kCanons,
@@ -75,7 +84,10 @@ bool ParseOptions(int argc, const char* const* argv, Options& options, int& stat
     return false;
   }
 
-  options.command = heading->parsed() ? Command::kHeading : Command::kConvert;
+  options.command = heading->parsed() ? Command::kHeading
+                    : build->parsed() ? Command::kConfigBuild
+                    : check->parsed() ? Command::kConfigCheck
+                                      : Command::kConvert;
   options.mode = kModes.at(mode);
   options.canons = kCanons.at(canons);
   options.format = json ? Format::kJson : kFormats.at(format);

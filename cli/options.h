@@ -11,7 +11,7 @@
 
 namespace cantorel::cli {
 
-enum class Command { kConvert, kHeading };
+enum class Command { kConvert, kHeading, kConfigBuild, kConfigCheck };
 
 struct Options {
   Command command = Command::kConvert;

@@ -66,9 +66,7 @@ WorkbookError ReadWorkbookOf(std::string_view folder, const Utf8MarcRecordClass&
   return workbook ? MakeDerivationTable(*workbook, record, text, build) : error;
 }
 
-}  // namespace
-
-std::string_view Describe(LeftOut why) {
+std::string_view ReasonOf(LeftOut why) {
   switch (why) {
     case LeftOut::kNot:
       break;
@@ -88,6 +86,21 @@ std::string_view Describe(LeftOut why) {
       return "and all below are not read, because blank rows stand above";
   }
   return "counts";
+}
+
+}  // namespace
+
+std::string Describe(const LeftOutRow& row) {
+  std::string text(row.sheet);
+  text.append(", row ").append(std::to_string(row.row)).append(" ");
+  return text.append(ReasonOf(row.why));
+}
+
+std::string WhyNotWritten(const DerivationBuild& build) {
+  if (build.written) return {};
+  if (!build.folder_takes_files) return "nothing can be written in the folder";
+  if (build.workbook_error == WorkbookError::kNone) return "the disk does not take it";
+  return std::string(kDerivationWorkbookName) + " " + std::string(Describe(build.workbook_error));
 }
 
 WorkbookError MakeDerivationTable(Workbook& workbook, const Utf8MarcRecordClass& record,

@@ -43,14 +43,14 @@ enum class LeftOut {
   kNoTerm,
   kBehindBlankRows,
 };
-// The reason in words.
-std::string_view Describe(LeftOut why);
 
 struct LeftOutRow {
   std::string_view sheet;
   std::int32_t row = 0;  // from 1
   LeftOut why = LeftOut::kNot;
 };
+// "List 3, row 7 has no key".
+std::string Describe(const LeftOutRow& row);
 
 // What a sheet gave.
 struct SheetCount {
@@ -68,6 +68,8 @@ struct DerivationBuild {
   std::vector<SheetCount> sheets;  // in the order of the workbook
   std::vector<LeftOutRow> left_out;
 };
+// What kept a table from being written; empty when it was.
+std::string WhyNotWritten(const DerivationBuild& build);
 
 // The text of the table that a workbook gives.  `record` lends its comparison
 // forms and stays as it is.  With an error `text` is empty.
