@@ -71,22 +71,23 @@ void SheetRows::Text(std::string_view text) {
 void SheetRows::StartRow(std::string_view number) {
   for (std::string& cell : row_.cells) cell.clear();
   column_ = 0;
-  std::int32_t wanted = row_.number + 1;
-  if (!number.empty()) {
-    std::from_chars(number.data(), number.data() + number.size(), wanted);
-  }
+  std::int32_t wanted = number.empty() ? row_.number + 1 : 0;
+  std::from_chars(number.data(), number.data() + number.size(), wanted);
   if (wanted <= row_.number || wanted > kMostRows) return Stop(WorkbookError::kDamaged);
   row_.number = wanted;
+}
+
+SheetRows::Kind SheetRows::KindOf(std::string_view type) {
+  if (type.empty() || type == "n") return Kind::kNumber;
+  if (type == "s") return Kind::kShared;
+  if (type == "b") return Kind::kBoolean;
+  return type == "inlineStr" ? Kind::kInline : Kind::kText;
 }
 
 void SheetRows::StartCell(std::string_view reference, std::string_view type) {
   const std::size_t named = ColumnOf(reference);
   column_ = named != 0 ? named : column_ + 1;
-  kind_ = type.empty() || type == "n" ? Kind::kNumber
-          : type == "s"               ? Kind::kShared
-          : type == "b"               ? Kind::kBoolean
-          : type == "inlineStr"       ? Kind::kInline
-                                      : Kind::kText;
+  kind_ = KindOf(type);
   value_.clear();
   inline_.Clear();
 }

@@ -28,6 +28,7 @@ class SheetRows : public XmlHandler {
   // How the value of a cell is written.
   enum class Kind { kNumber, kShared, kBoolean, kInline, kText };
 
+  static Kind KindOf(std::string_view type);
   void StartRow(std::string_view number);
   void StartCell(std::string_view reference, std::string_view type);
   void EndCell();

@@ -263,6 +263,28 @@ class CommandTest(unittest.TestCase):
                             (half, "has no usable Music6xxTo655.txt")):
             self.check(run("convert", "--config", folder, SAMPLE), 2, str(folder), why)
 
+    def test_configuration_is_built_and_checked(self):
+        self.check(run("config", "check"), 0)
+        shutil.copy(CONFIG / "MusicMedium.Lcmpt.txt", self.folder)
+        workbook = self.folder / "Deriving bibliographic 655 etc.xlsx"
+        build = ("config", "build", "--config", self.folder)
+        self.check(run(*build), 3, "Music6xxTo655.txt was not built", "is not there")
+        workbook.write_bytes(b"PK\x03\x04")
+        self.check(run(*build), 3, workbook.name)
+        self.check(run("convert", "--config", self.folder, SAMPLE), 2,
+                   "has no usable Music6xxTo655.txt", workbook.name)
+        shutil.copy(SOURCE / "tests" / "data" / "workbooks" / "derivation.xlsx", workbook)
+        done = run(*build)
+        if b"without libzip" in done.stderr:
+            self.skipTest("no reader of workbooks")
+        self.check(done, 0)
+        self.assertIn(b"  List 3        4 keys      6 fields\n", done.stdout)
+        self.assertIn(b"  List 6, row 5 has no key\n", done.stdout)
+        done = run("config", "check", "--config", self.folder)
+        self.check(done, 1)
+        self.assertIn(b"Music6xxTo655.txt:5: jazz repeats a key", done.stdout)
+        self.assertNotIn(b"gives another table", done.stdout)
+
     def test_configuration_folder_may_have_any_name(self):
         shutil.copytree(CONFIG, self.folder / "me")
         done = run("heading", "--config", "me", "Flute music", cwd=self.folder)
