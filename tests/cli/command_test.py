@@ -104,6 +104,27 @@ HEADINGS = [
 ]
 
 
+# The genres of headings, beside what decides them, with English as the only
+# language that the table knows.
+GENRES = [
+    # A qualifier behind a comma: a language, an arrangement.
+    ("Hymns, English", ["Hymns"]),
+    ("Hymns, Klingon", []),
+    ("Violin and piano music, Arranged", ["Arrangements (Music)", "Chamber music"]),
+    # A family and a number word; a parenthesis changes nothing.
+    ("String quartets (Sacred)", ["Chamber music"]),
+    ("Piano duets", []),
+    # A parenthesis, and what stands behind "with".
+    ("Songs (High voice) with piano", ["Songs", "Chamber music"]),
+    ("Songs (High voice) with orchestra", ["Songs"]),
+    ("Trumpet music (Trumpets (2))", ["Chamber music"]),
+    ("Piano music (Jazz)", ["Jazz"]),
+    ("Canons, fugues, etc. (Organ)", ["Art music"]),
+    # The last one only for the number of performers.
+    ("Sonatas (Flute and piano)", ["Sonatas", "Chamber music"]),
+]
+
+
 class CommandTest(unittest.TestCase):
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp())
@@ -152,6 +173,19 @@ class CommandTest(unittest.TestCase):
                 # A heading that gives nothing is named.
                 self.assertEqual([m["type_name"] for m in answer["messages"]],
                                  [] if expected else ["382 non-productive"])
+
+    def test_genres_of_headings(self):
+        config = self.folder / "config"
+        shutil.copytree(CONFIG, config)
+        with (config / "Music6xxTo655.txt").open("a") as table:
+            table.write("\n[LanguagesByName]\nenglish=eng\n")
+        for heading, expected in GENRES:
+            with self.subTest(heading):
+                done = run("heading", "--config", config, "--mode", "all", "--json", heading)
+                self.check(done, 0)
+                fields = json.loads(done.stdout)["fields"]
+                self.assertEqual([dict(f["subfields"])["a"] for f in fields if f["tag"] == "655"],
+                                 expected)
 
     def test_a_heading_that_gave_nothing_reads_as_it_stands(self):
         # The component itself would say "$aWalt$zes", a "$" ahead of every z.
