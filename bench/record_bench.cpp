@@ -17,8 +17,7 @@ void CountRecords(benchmark::State& state, std::int64_t octets) {
   state.SetBytesProcessed(octets);
 }
 
-void Load(benchmark::State& state) {
-  Utf8MarcRecordClass record;
+void LoadInto(Utf8MarcRecordClass& record, benchmark::State& state) {
   std::size_t position = 0;
   std::int64_t octets = 0;
   for (auto _ : state) {
@@ -29,7 +28,30 @@ void Load(benchmark::State& state) {
   }
   CountRecords(state, octets);
 }
+
+void Load(benchmark::State& state) {
+  Utf8MarcRecordClass record;
+  LoadInto(record, state);
+}
 BENCHMARK(Load);
+
+// What order costs: a load that orders neither fields nor subfields, and one
+// that orders both by the defaults.
+void LoadWithoutOrder(benchmark::State& state) {
+  Utf8MarcRecordClass record;
+  record.IgnoreSfdOrder(true);
+  LoadInto(record, state);
+}
+BENCHMARK(LoadWithoutOrder);
+
+void LoadWithDefaultOrder(benchmark::State& state) {
+  Utf8MarcRecordClass record;
+  record.SetDefaultFldOrderAuth();
+  record.SetDefaultFldOrderBib();
+  record.SetDefaultFldOrderHold();
+  LoadInto(record, state);
+}
+BENCHMARK(LoadWithDefaultOrder);
 
 void LoadAndWriteBack(benchmark::State& state) {
   Utf8MarcRecordClass record;

@@ -197,6 +197,8 @@ void Utf8MarcRecordClass::ParseFieldText(std::int16_t row, std::string_view text
     return;
   }
   parsing_ = true;
+  parse_order_ = ignore_subfield_order_ ? nullptr : &SubfieldOrderRowFor(field);
+  parse_saw_title_ = false;
   ParseSubfields(field, text);
   parsing_ = false;
 }
@@ -213,6 +215,7 @@ void Utf8MarcRecordClass::ParseSubfields(FieldRecord& field, std::string_view te
         text.substr(std::min(start + 1, end), end - std::min(start + 1, end));
     const std::int16_t rows = field.subfield_max;
     AddSubfield(field, code, trim ? Trim(given) : given);
+    if (code == 't' && field.subfield_max > rows) parse_saw_title_ = true;
     as_given = as_given && field.subfield_max > rows && field.last_subfield == field.subfield_max &&
                IsAsGiven(table_.Subfield(field, field.last_subfield), code, given);
   }
@@ -247,6 +250,7 @@ void Utf8MarcRecordClass::RebuildField(std::string_view tag, std::string_view in
 
   CurrentField().changed = true;
   if (row == field_008_) field_008_ = kNoRow;
+  FindDelimiters(text);
   const OrderKey key = MakeFieldOrderKey(new_tag, new_indicators, text);
   const bool has_subfield6 = FindSubfield6(text) != std::string_view::npos;
   if (MayStay(CurrentField(), key, has_subfield6) || table_.Full()) {
@@ -256,7 +260,6 @@ void Utf8MarcRecordClass::RebuildField(std::string_view tag, std::string_view in
     field.link_key = key.link;
     SetTagAndIndicators(field, new_tag, new_indicators);
     if (new_tag == "008") field_008_ = row;
-    FindDelimiters(text);
     ParseFieldText(row, text);
   } else {
     FldDelete();
@@ -381,6 +384,7 @@ void Utf8MarcRecordClass::InsertBeside(std::string_view tag, std::string_view in
   const std::string_view kept = table_.Arena().Keep(text);
   const std::string_view content =
       is_control ? ControlFieldText(tag, kept, false) : DataFieldText(kept);
+  FindDelimiters(content);
   const OrderKey key = MakeFieldOrderKey(tag, indicators, content);
   const std::int16_t here = current_field_;
   if (!FitsBeside(here, key.key, after)) return FldAdd(tag, indicators, text);
@@ -390,7 +394,6 @@ void Utf8MarcRecordClass::InsertBeside(std::string_view tag, std::string_view in
   } else {
     LinkBefore(row, here);
   }
-  FindDelimiters(content);
   if (!content.empty()) ParseFieldText(row, content);
 }
 

@@ -21,9 +21,9 @@ constexpr std::string_view kAnyPlace = "*";
 constexpr std::string_view kNoTable = "*****";
 constexpr char kBehindAllIndicators = '\xFF';
 
-void AppendRowNumber(std::size_t number, std::string& key) {
-  const std::string digits = std::to_string(number);
-  key.append(digits.size() < 3 ? 3 - digits.size() : 0, '0').append(digits);
+bool IsTag(std::string_view text) {
+  return text.size() == 3 && IsAsciiDigit(text[0]) && IsAsciiDigit(text[1]) &&
+         IsAsciiDigit(text[2]);
 }
 
 char IndicatorAt(std::string_view indicators, std::size_t position) {
@@ -83,18 +83,19 @@ bool Utf8MarcRecordClass::PairingIsOn() const {
   return field_orders_.Pairing(FamilyOf(format_code_)).on;
 }
 
-bool Utf8MarcRecordClass::IsLocalNote(std::string_view tag) const {
-  const FieldOrderTable& table = field_orders_.Table(FamilyOf(format_code_));
+bool Utf8MarcRecordClass::IsLocalNote(std::string_view tag) {
+  FieldOrderTable& table = field_orders_.Table(FamilyOf(format_code_));
   return !table.Empty() && table.Find(tag).kind == FieldOrderKind::kLocal;
 }
 
 // The key of a field, and its link part when it is paired.  An 880 has the key
-// of the field that it stands for.
+// of the field that it stands for.  FindDelimiters has been through the text of
+// a data field.
 Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string_view tag,
                                                                      std::string_view indicators,
                                                                      std::string_view text) {
   const FormatFamily family = FamilyOf(format_code_);
-  const FieldOrderTable& table = field_orders_.Table(family);
+  FieldOrderTable& table = field_orders_.Table(family);
   if (table.Empty()) return {family == FormatFamily::kOther ? kNoTable : kAnyPlace, {}};
 
   const char pair[2] = {IndicatorAt(indicators, 0), IndicatorAt(indicators, 1)};
@@ -102,8 +103,8 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   const FieldPairing& pairing = field_orders_.Pairing(family);
   std::string_view subfield6;
   const bool is_880 = tag == "880";
-  const bool paired = pairing.on && FindSubfieldText(text, '6', subfield6);
-  if (paired && is_880 && subfield6.size() >= 3) {
+  const bool paired = pairing.on && !tag.starts_with("00") && FindLinkingSubfield(text, subfield6);
+  if (paired && is_880 && IsTag(subfield6.substr(0, 3))) {
     field.tag = subfield6.substr(0, 3);
     const bool lc_heading = pairing.lc && family == FormatFamily::kBibliographic;
     if (lc_heading && field.tag[0] == '6' && field.indicators[1] == '4') field.indicators[1] = '0';
@@ -111,13 +112,24 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
 
   const FieldOrderTable::Place place = table.Find(field.tag);
   if (place.kind == FieldOrderKind::kNone) return {kAnyPlace, {}};
-  order_key_.clear();
-  AppendRowNumber(place.number, order_key_);
+  if (!place.key.empty() && !paired) return {place.key, {}};
+  order_key_ = place.number;
   AppendKeyOfKind(place.kind, field);
   const std::size_t length = order_key_.size();
   if (paired) AppendLinkPart(subfield6, is_880, order_key_);
   const std::string_view whole = table_.Arena().Keep(order_key_);
   return {whole.substr(0, length), whole.substr(length)};
+}
+
+// Finds the $6, which nearly all fields are without, among the known delimiters.
+bool Utf8MarcRecordClass::FindLinkingSubfield(std::string_view text,
+                                              std::string_view& subfield6) const {
+  for (const std::uint32_t place : delimiters_) {
+    if (place + 1 < text.size() && text[place + 1] == '6') {
+      return FindSubfieldText(text.substr(place), '6', subfield6);
+    }
+  }
+  return false;
 }
 
 // Adds what orders the fields of one range to the key.

@@ -1,6 +1,7 @@
 #include "record/field_order_table.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "charset/octet_text.h"
 #include "charset/utf8.h"
@@ -11,6 +12,8 @@ namespace {
 
 constexpr std::string_view kFirstTag = "001";
 constexpr std::string_view kLastTag = "999";
+constexpr std::size_t kTags = 1000;
+constexpr std::size_t kMaxRows = 32767;
 
 struct KindName {
   std::string_view name;  // in capitals
@@ -56,6 +59,33 @@ std::uint32_t FirstOctets(std::string_view text) {
   return number;
 }
 
+// With zeros in front; a larger number keeps its digits.
+std::string ThreeDigits(std::size_t number) {
+  const std::string digits = std::to_string(number);
+  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
+// What a kind adds to a key if that is a matter of the tag alone, otherwise
+// nothing.
+std::string_view KeyOfTag(FieldOrderKind kind, std::string_view tag) {
+  switch (kind) {
+    case FieldOrderKind::kTag:
+      return tag;
+    case FieldOrderKind::kNameTitle:
+    case FieldOrderKind::kIndicator2:
+    case FieldOrderKind::kLocal:
+    case FieldOrderKind::kReference:
+    case FieldOrderKind::kSubfield8:
+    case FieldOrderKind::kNone:
+    case FieldOrderKind::kIndicator1:
+    case FieldOrderKind::kRda33x:
+    case FieldOrderKind::kSubfieldC:
+      return {};
+    default:
+      return tag.substr(0, 1);
+  }
+}
+
 }  // namespace
 
 FieldOrderKind KindNamed(std::string_view word) {
@@ -85,8 +115,15 @@ std::string_view KindInWords(FieldOrderKind kind) {
   }
 }
 
+void FieldOrderTable::Clear() {
+  rows_.clear();
+  places_.clear();
+}
+
 void FieldOrderTable::Add(std::string_view low, std::string_view high, FieldOrderKind kind) {
+  if (rows_.size() == kMaxRows) return;
   rows_.push_back({std::string(low), std::string(high), kind, FirstOctets(low), FirstOctets(high)});
+  places_.clear();
 }
 
 void FieldOrderTable::EnsureGenericRow() {
@@ -94,12 +131,28 @@ void FieldOrderTable::EnsureGenericRow() {
   Add(kFirstTag, kLastTag, FieldOrderKind::kGeneric);
 }
 
-FieldOrderTable::Place FieldOrderTable::Find(std::string_view tag) const {
+// Every field asks, so that the answers for all tags are made beforehand.
+void FieldOrderTable::IndexTags() {
+  places_.reserve(kTags);
+  for (std::size_t number = 0; number < kTags; ++number) {
+    const std::string tag = ThreeDigits(number);
+    const Row* const row = RowOf(tag);
+    TagPlace place = {row->kind, 0, 0, {}};
+    std::string key = ThreeDigits(static_cast<std::size_t>(row - rows_.data()) + 1);
+    place.number_length = static_cast<std::uint8_t>(key.size());
+    key.append(KeyOfTag(row->kind, tag));
+    if (key.size() > place.number_length) place.key_length = static_cast<std::uint8_t>(key.size());
+    key.copy(place.key, sizeof(place.key));
+    places_.push_back(place);
+  }
+}
+
+const FieldOrderTable::Row* FieldOrderTable::RowOf(std::string_view tag) const {
   const std::uint32_t octets = FirstOctets(tag);
   const auto found = std::find_if(rows_.begin(), rows_.end() - 1, [octets](const Row& row) {
     return row.low_octets <= octets && octets <= row.high_octets;
   });
-  return {static_cast<std::size_t>(found - rows_.begin()) + 1, found->kind};
+  return &*found;
 }
 
 std::string FieldOrderTable::Summary() const {

@@ -42,7 +42,7 @@ std::string_view KindInWords(FieldOrderKind kind);
 
 class FieldOrderTable {
  public:
-  void Clear() { rows_.clear(); }
+  void Clear();
   bool Empty() const { return rows_.empty(); }
 
   // Adds a row.  A tag is compared as text, so that any strings may be given.
@@ -51,13 +51,21 @@ class FieldOrderTable {
   // Closes the table with a row for all tags, unless it has one as its last.
   void EnsureGenericRow();
 
+  // Where the fields of a tag belong: the first row that holds it, or without one
+  // the last row.
   struct Place {
-    std::size_t number;  // of the row, from 1
     FieldOrderKind kind;
+    std::string_view number;  // of the row, from 1, at least three digits
+    std::string_view key;     // the whole key, when it depends on nothing but the tag
   };
-  // The first row that holds the tag, or without one the last row.  Not to be
-  // asked of an empty table.
-  Place Find(std::string_view tag) const;
+  // The tag is three digits.  Not to be asked of an empty table.  The views stay
+  // valid until the table changes.
+  Place Find(std::string_view tag) {
+    if (places_.empty()) IndexTags();
+    const int number = (tag[0] - '0') * 100 + (tag[1] - '0') * 10 + (tag[2] - '0');
+    const TagPlace& place = places_[static_cast<std::size_t>(number)];
+    return {place.kind, {place.key, place.number_length}, {place.key, place.key_length}};
+  }
 
   // A line "low-high in words" for each row, ended by CR LF.
   std::string Summary() const;
@@ -70,7 +78,19 @@ class FieldOrderTable {
     std::uint32_t low_octets;  // as numbers, for the search
     std::uint32_t high_octets;
   };
+  // The answer for one tag.
+  struct TagPlace {
+    FieldOrderKind kind;
+    std::uint8_t number_length;
+    std::uint8_t key_length;  // 0: the key depends on more than the tag
+    char key[8];
+  };
+
+  void IndexTags();
+  const Row* RowOf(std::string_view tag) const;
+
   std::vector<Row> rows_;
+  std::vector<TagPlace> places_;  // by the number of the tag; empty: to be made
 };
 
 }  // namespace cantorel

@@ -141,7 +141,11 @@ void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::strin
 // wants it.
 void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
                                          bool after) {
-  if (PutSubfieldBeside(field, code, text, after)) WalkIntoPlace();
+  const char prev = CurrentSubfield().code;
+  if (!PutSubfieldBeside(field, code, text, after)) return;
+  if (!parsing_) return WalkIntoPlace();
+  if (parse_order_ == nullptr) return;
+  if (!parse_order_->StaysLast(code, prev, parse_saw_title_)) WalkIntoPlace();
 }
 
 // Puts a subfield beside the current one; an empty text is not inserted.
@@ -177,6 +181,7 @@ void Utf8MarcRecordClass::SetLeading6(std::string_view text) {
   FieldRecord& field = CurrentField();
   std::string linked = SfdDelim("6").append(text);
   AppendText(field, linked);
+  FindDelimiters(linked);
   field.link_key = MakeFieldOrderKey(field.Tag(), field.Indicators(), linked).link;
   const bool found = GoToSubfieldForward(field.first_subfield, true);
   if (!found) return AddFirstSubfield(field, '6', text);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "charset/octet_text.h"
-#include "charset/utf8.h"
 
 namespace cantorel {
 
@@ -38,12 +37,15 @@ SubfieldOrder::SubfieldOrder(std::string_view pattern) : pattern_(ParseSubfieldP
 // The first rule that holds a code counts.  Behind a $t a repeated code is looked
 // for in the rules that hold "t" only.  What no rule holds is left to the last.
 void SubfieldOrder::FillRuleTables() {
+  for (const char code : pattern_.repeated_codes) {
+    if (Slot(code) < kCodes) repeated_[Slot(code)] = true;
+  }
   for (auto& rule_of : rule_of_) rule_of.fill(last_rule_);
   for (RuleIndex i = last_rule_; i-- > 0;) {
     const SubfieldRule& rule = pattern_.rules[i];
     const bool holds_title = rule.codes.find('t') != std::string::npos;
     for (const char code : rule.codes) {
-      const std::size_t slot = Octet(code);
+      const std::size_t slot = Slot(code);
       if (slot >= kCodes) continue;
       rule_of_[0][slot] = i;
       if (holds_title || !IsRepeated(code)) rule_of_[1][slot] = i;

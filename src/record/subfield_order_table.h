@@ -30,24 +30,31 @@ class SubfieldOrder {
   // True for a code that more than one rule holds.  Which of them applies
   // depends on whether a $t stands before it: the title part of a name-title
   // repeats codes of the name part.
-  bool IsRepeated(char code) const {
-    return pattern_.repeated_codes.find(code) != std::string::npos;
-  }
+  bool IsRepeated(char code) const { return Slot(code) < kCodes && repeated_[Slot(code)]; }
 
   // Whether a subfield should stand earlier or later than it does.  `prev` and
   // `next` are the codes beside it, 0 for none.  `after_title` counts only for
   // a repeated code; it then holds for the neighbours too.
   SubfieldMove Compare(char own, char prev, char next, bool after_title) const;
 
+  // Whether a subfield may stay behind `prev` at the end of a field; the question
+  // of a load, where nearly all stay.  `title_seen` is whether the field has a $t.
+  bool StaysLast(char own, char prev, bool title_seen) const {
+    const bool after_title = title_seen && IsRepeated(own);
+    return RuleOf(prev, after_title) < RuleOf(own, after_title) ||
+           Compare(own, prev, '\0', after_title) == SubfieldMove::kNone;
+  }
+
   const SubfieldPattern& Pattern() const { return pattern_; }
 
  private:
   using RuleIndex = std::uint16_t;
-  static constexpr std::size_t kCodes = 128;
+  static constexpr std::size_t kCodes = 128;  // all others are left to the last rule
+
+  static std::size_t Slot(char code) { return static_cast<unsigned char>(code); }
 
   RuleIndex RuleOf(char code, bool after_title) const {
-    const auto octet = static_cast<unsigned char>(code);
-    return octet < kCodes ? rule_of_[after_title ? 1 : 0][octet] : last_rule_;
+    return Slot(code) < kCodes ? rule_of_[after_title ? 1 : 0][Slot(code)] : last_rule_;
   }
   void FillRuleTables();
   static bool BelongsBefore(const SubfieldRule& rule, char right, char left);
@@ -55,6 +62,7 @@ class SubfieldOrder {
   SubfieldPattern pattern_;
   RuleIndex last_rule_ = 0;
   std::array<std::array<RuleIndex, kCodes>, 2> rule_of_;
+  std::array<bool, kCodes> repeated_ = {};
 };
 
 class SubfieldOrderTable {

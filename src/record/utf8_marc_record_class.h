@@ -749,10 +749,11 @@ class Utf8MarcRecordClass {
   // Order (field_order.cpp, subfield_order.cpp).
   OrderKey MakeFieldOrderKey(std::string_view tag, std::string_view indicators,
                              std::string_view text);
+  bool FindLinkingSubfield(std::string_view text, std::string_view& subfield6) const;
   void AppendKeyOfKind(FieldOrderKind kind, const SortedField& field);
   void AppendIndicator2(const SortedField& field);
   bool PairingIsOn() const;
-  bool IsLocalNote(std::string_view tag) const;
+  bool IsLocalNote(std::string_view tag);
   SubfieldOrderTable& SubfieldOrders(FormatFamily family) {
     return subfield_orders_[static_cast<std::size_t>(family)];
   }
@@ -806,7 +807,11 @@ class Utf8MarcRecordClass {
 
   // The table and its chain.
   FieldTable table_;
-  std::vector<std::uint32_t> delimiters_;  // their places in the field text at hand
+  // The field text at hand while it is parsed: the places of its delimiters, the
+  // order of its subfields (null: none), and whether a $t was among them.
+  std::vector<std::uint32_t> delimiters_;
+  const SubfieldOrder* parse_order_ = nullptr;
+  bool parse_saw_title_ = false;
   std::int16_t first_field_ = kNoRow;
   std::int16_t last_field_ = kNoRow;
   std::int16_t field_008_ = kNoRow;
