@@ -3,6 +3,8 @@
 #ifndef CANTOREL_GENRE_CLOSING_PASSES_H_
 #define CANTOREL_GENRE_CLOSING_PASSES_H_
 
+#include <cstdint>
+
 #include "genre/genre_context.h"
 #include "platform/field_selection.h"
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "charset/marc_control.h"
 #include "charset/octet_text.h"
@@ -91,7 +92,6 @@ void Music650To382Class::Private_655_AddField(Utf8MarcRecordClass& record, std::
                                               std::string_view text, std::string_view source,
                                               std::string& new_lines) {
   genre_.productive = true;
-  genre_.field_added = true;
   std::string punctuated(Trim(text));
 
   std::string key(tag);

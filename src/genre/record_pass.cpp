@@ -101,7 +101,6 @@ bool RecordPass::BeginHeading() {
     state_.subfield_3_part += record_.SfdTextView();
   }
   if (!record_.SfdFindFirst("a", {})) return false;
-  state_.field_added = false;
   heading_norm_ = record_.SfdNormView();
   return true;
 }

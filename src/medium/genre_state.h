@@ -54,8 +54,7 @@ struct GenreState {
   std::string current_field_text;
   // Delimiter, "3" and text of its first $3, or empty.
   std::string subfield_3_part;
-  bool productive = false;   // it gave a field, subdivisions aside
-  bool field_added = false;  // a field was added since its $a was found
+  bool productive = false;  // it gave a field, subdivisions aside
 
   // What the walk over a record begins without.
   void BeginRecordPass() {
