@@ -35,10 +35,15 @@ def run_in_terminal(typed, *arguments):
     done = subprocess.run([COMMAND, *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.PIPE, timeout=120, start_new_session=True,
                           preexec_fn=lambda: fcntl.ioctl(slave, termios.TIOCSCTTY, 0))
-    shown = os.read(master, 65536).decode()
-    os.close(master)
     os.close(slave)
-    return done, shown
+    shown = b""
+    try:
+        while piece := os.read(master, 65536):
+            shown += piece
+    except OSError:  # all is read
+        pass
+    os.close(master)
+    return done, shown.decode()
 
 
 def image(*fields, record_type="c"):
