@@ -41,6 +41,9 @@ ExitStatus RunConfigBuild(const Options& options) {
   }
   std::string text = table + "\n";
   for (const SheetCount& count : build.sheets) text += CountLine(count);
+  for (const std::string_view sheet : build.missing_sheets) {
+    text += "  there is no sheet " + std::string(sheet) + "\n";
+  }
   for (const LeftOutRow& row : build.left_out) text += "  " + Describe(row) + "\n";
   return WriteOutput(text) && FinishOutput() ? kAllWell : kInputOutputFailed;
 }

@@ -135,6 +135,9 @@ void CheckWorkbook(std::string_view folder, const Utf8MarcRecordClass& record,
   std::string text;
   DerivationBuild build;
   if (workbook) error = MakeDerivationTable(*workbook, record, text, build);
+  for (const std::string_view sheet : build.missing_sheets) {
+    findings.push_back(name + ": has no sheet " + std::string(sheet));
+  }
   for (const LeftOutRow& row : build.left_out) findings.push_back(name + ": " + Describe(row));
   if (error != WorkbookError::kNone) {
     findings.push_back(name + ": " + std::string(Describe(error)));

@@ -23,6 +23,8 @@ constexpr std::int32_t kMostBlankRows = 3;
 // A table beyond this many octets was not made by people: one long text can be
 // the cell of every row.
 constexpr std::size_t kMostHeld = 64 << 20;
+// What a field takes beside its octets.
+constexpr std::size_t kFieldOverhead = sizeof(std::string);
 
 // A line of the table must stay one line, whatever a cell holds.
 std::string WithoutControls(std::string text) {
@@ -86,6 +88,10 @@ WorkbookError DerivationSheets::Read(Workbook& workbook) {
     const WorkbookError error = ReadSheet(workbook, sheet, *form);
     if (error != WorkbookError::kNone) return error;
     if (held_ > kMostHeld) return WorkbookError::kTooLarge;
+  }
+  for (const SheetForm& form : kSheetForms) {
+    if (std::find(names.begin(), names.end(), form.sheet) != names.end()) continue;
+    build_.missing_sheets.push_back(form.sheet);
   }
   return WorkbookError::kNone;
 }
@@ -211,7 +217,7 @@ LeftOut DerivationSheets::AddFields(std::vector<std::string>& fields, std::strin
     field.append(tag_and_indicators).push_back('\t');
     field.append(TranslateIntoEscapes(TranslateEscapes(term))).push_back('\t');
     field.append(TranslateIntoEscapes(Trim(source)));
-    held_ += field.size() + sizeof field;
+    held_ += field.size() + kFieldOverhead;
     fields.push_back(std::move(field));
     ++build_.sheets.back().fields;
   }

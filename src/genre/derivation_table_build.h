@@ -66,6 +66,7 @@ struct DerivationBuild {
   WorkbookError workbook_error = WorkbookError::kNone;
   bool written = false;            // the table is there
   std::vector<SheetCount> sheets;  // in the order of the workbook
+  std::vector<std::string_view> missing_sheets;
   std::vector<LeftOutRow> left_out;
 };
 // What kept a table from being written; empty when it was.

@@ -127,6 +127,7 @@ TEST_F(DerivationTableFile, IsMadeFromItsWorkbook) {
   BuildDerivationTable(Folder(), record_, build);
   if (build.workbook_error == WorkbookError::kNoReader) GTEST_SKIP();
   EXPECT_TRUE(build.written);
+  EXPECT_THAT(build.missing_sheets, IsEmpty());
   EXPECT_EQ(ContentOf(Folder() + "Music6xxTo655.txt"), ContentOf(data + "derivation.txt"));
   std::vector<std::string> left_out;
   for (const LeftOutRow& row : build.left_out) left_out.push_back(Describe(row));

@@ -68,6 +68,22 @@ TEST_F(AddFieldsResults, NoDerivationTable) {
   EXPECT_FALSE(std::filesystem::exists(table));
 }
 
+// The table is made from its workbook at the first call, and only then.
+TEST_F(AddFieldsResults, DerivationTableFromItsWorkbook) {
+  const std::string table = folder_ + "Music6xxTo655.txt";
+  const std::string workbook = folder_ + "Deriving bibliographic 655 etc.xlsx";
+  std::filesystem::copy(CANTOREL_TEST_DATA "/workbooks/derivation.xlsx", workbook);
+  EXPECT_EQ(cantorel_.AddFields("", 2), -1);
+  EXPECT_THAT(ReadFile(table), ::testing::Not(::testing::HasSubstr("[List3]")));
+  std::filesystem::remove(table);
+  CantorelClass cantorel;
+  if (cantorel.AddFields("", 2) == -6) GTEST_SKIP() << "no reader of workbooks";
+  cantorel.AddFields(SampleImage('c', {kNumber, {"650", " 0", "$aString quartets"}}), 2);
+  EXPECT_THAT(
+      Readable(cantorel.ReturnedFields()),
+      ::testing::ElementsAre("0 655  7 $aChamber music$2lcgft", "0 655  7 $aArt music$2lcgft"));
+}
+
 TEST_F(AddFieldsResults, NothingToReturn) {
   EXPECT_EQ(cantorel_.AddFields(SampleImage('c', {kNumber, kTitle}), 1), 0);
   EXPECT_EQ(cantorel_.ReturnedFields(), "");
