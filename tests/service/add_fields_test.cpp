@@ -78,10 +78,10 @@ TEST_F(AddFieldsResults, DerivationTableFromItsWorkbook) {
   std::filesystem::remove(table);
   CantorelClass cantorel;
   if (cantorel.AddFields("", 2) == -6) GTEST_SKIP() << "no reader of workbooks";
-  cantorel.AddFields(SampleImage('c', {kNumber, {"650", " 0", "$aString quartets"}}), 2);
-  EXPECT_THAT(
-      Readable(cantorel.ReturnedFields()),
-      ::testing::ElementsAre("0 655  7 $aChamber music$2lcgft", "0 655  7 $aArt music$2lcgft"));
+  cantorel.AddFields(SampleImage('c', {kNumber, {"650", " 0", "$aChildren's songs"}}), 2);
+  EXPECT_THAT(Readable(cantorel.ReturnedFields()),
+              ::testing::UnorderedElementsAre("0 655  7 $aChildren's songs$2lcgft",
+                                              "0 385    $aChildren$2lcdgt"));
 }
 
 TEST_F(AddFieldsResults, NothingToReturn) {
