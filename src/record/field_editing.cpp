@@ -196,11 +196,9 @@ void Utf8MarcRecordClass::ParseFieldText(std::int16_t row, std::string_view text
     AddFirstSubfield(field, '\0', text);
     return;
   }
-  parsing_ = true;
   parse_order_ = ignore_subfield_order_ ? nullptr : &SubfieldOrderRowFor(field);
   parse_saw_title_ = false;
   ParseSubfields(field, text);
-  parsing_ = false;
 }
 
 void Utf8MarcRecordClass::ParseSubfields(FieldRecord& field, std::string_view text) {
@@ -214,7 +212,7 @@ void Utf8MarcRecordClass::ParseSubfields(FieldRecord& field, std::string_view te
     const std::string_view given =
         text.substr(std::min(start + 1, end), end - std::min(start + 1, end));
     const std::int16_t rows = field.subfield_max;
-    AddSubfield(field, code, trim ? Trim(given) : given);
+    AddParsedSubfield(field, code, trim ? Trim(given) : given);
     if (code == 't' && field.subfield_max > rows) parse_saw_title_ = true;
     as_given = as_given && field.subfield_max > rows && field.last_subfield == field.subfield_max &&
                IsAsGiven(table_.Subfield(field, field.last_subfield), code, given);

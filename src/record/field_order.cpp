@@ -97,6 +97,7 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   const FormatFamily family = FamilyOf(format_code_);
   FieldOrderTable& table = field_orders_.Table(family);
   if (table.Empty()) return {family == FormatFamily::kOther ? kNoTable : kAnyPlace, {}};
+  if (table.OrdersNothing() && !field_orders_.Pairing(family).on) return {kAnyPlace, {}};
 
   const char pair[2] = {IndicatorAt(indicators, 0), IndicatorAt(indicators, 1)};
   SortedField field{tag, {pair[0], pair[1]}, text};

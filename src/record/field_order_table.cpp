@@ -117,12 +117,16 @@ std::string_view KindInWords(FieldOrderKind kind) {
 
 void FieldOrderTable::Clear() {
   rows_.clear();
+  orders_nothing_ = false;
   places_.clear();
 }
 
 void FieldOrderTable::Add(std::string_view low, std::string_view high, FieldOrderKind kind) {
   if (rows_.size() == kMaxRows) return;
   rows_.push_back({std::string(low), std::string(high), kind, FirstOctets(low), FirstOctets(high)});
+  if (rows_.size() == 1) {
+    orders_nothing_ = kind == FieldOrderKind::kNone && low <= "000" && high >= "999";
+  }
   places_.clear();
 }
 

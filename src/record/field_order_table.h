@@ -44,6 +44,8 @@ class FieldOrderTable {
  public:
   void Clear();
   bool Empty() const { return rows_.empty(); }
+  // True when the first row leaves every tag where it stands.
+  bool OrdersNothing() const { return orders_nothing_; }
 
   // Adds a row.  A tag is compared as text, so that any strings may be given.
   void Add(std::string_view low, std::string_view high, FieldOrderKind kind);
@@ -90,6 +92,7 @@ class FieldOrderTable {
   const Row* RowOf(std::string_view tag) const;
 
   std::vector<Row> rows_;
+  bool orders_nothing_ = false;
   std::vector<TagPlace> places_;  // by the number of the tag; empty: to be made
 };
 

@@ -71,19 +71,40 @@ void Utf8MarcRecordClass::RefileLocalField(std::string_view subfield5) {
 // `text` must stay valid while the record is held.
 void Utf8MarcRecordClass::AddSubfield(FieldRecord& field, char code, std::string_view text) {
   if (field.is_control) return AddControlText(field, text);
-  if (code == '6' && !parsing_) return SetLeading6(text);
+  if (code == '6') return SetLeading6(text);
+  SettleSubfield(field, code, text);
+  if (!SfdMoveLast(true)) return AddFirstSubfield(field, code, text);
+  InsertSubfield(field, code, text, true);
+}
+
+// The same while a field text is parsed: what is there was just added, so the
+// new subfield goes behind it, a $6 like any other.  An empty one is dropped.
+void Utf8MarcRecordClass::AddParsedSubfield(FieldRecord& field, char code, std::string_view text) {
+  SettleSubfield(field, code, text);
+  const std::int16_t last = field.last_subfield;
+  if (last == kNoRow) return AddFirstSubfield(field, code, text);
+  if (text.empty()) return;
+  const std::int16_t row = AppendSubfieldRow(field, code, text, NormOrigin::kInserted);
+  if (row == kNoRow) return;
+  SubfieldRecord& before = table_.Subfield(field, last);
+  before.next = row;
+  table_.Subfield(field, row).prev = last;
+  field.last_subfield = current_subfield_ = row;
+  const bool stays =
+      parse_order_ == nullptr || parse_order_->StaysLast(code, before.code, parse_saw_title_);
+  if (!stays) WalkIntoPlace();
+}
+
+// What a subfield is added as: an OCLC number in the form wanted, and a code
+// that is none as "9".
+void Utf8MarcRecordClass::SettleSubfield(const FieldRecord& field, char& code,
+                                         std::string_view& text) {
   if (code == 'a' && remove_duplicate_oclc_numbers_ && field.Tag() == "035") {
     text = ResolveDuplicateOclcNumber(text);
   }
-  if (!IsUsableCode(code)) {
-    code = kUnusableCode;
-    modified_ = true;
-  }
-  // While a field is parsed its last subfield is live: it was just added.
-  const bool behind_last = parsing_ ? field.last_subfield != kNoRow : SfdMoveLast(true);
-  if (!behind_last) return AddFirstSubfield(field, code, text);
-  if (parsing_) current_subfield_ = field.last_subfield;
-  InsertSubfield(field, code, text, true);
+  if (IsUsableCode(code)) return;
+  code = kUnusableCode;
+  modified_ = true;
 }
 
 // The one subfield of a control field is row 0.  What is added later goes to a
@@ -141,11 +162,7 @@ void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::strin
 // wants it.
 void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
                                          bool after) {
-  const char prev = CurrentSubfield().code;
-  if (!PutSubfieldBeside(field, code, text, after)) return;
-  if (!parsing_) return WalkIntoPlace();
-  if (parse_order_ == nullptr) return;
-  if (!parse_order_->StaysLast(code, prev, parse_saw_title_)) WalkIntoPlace();
+  if (PutSubfieldBeside(field, code, text, after)) WalkIntoPlace();
 }
 
 // Puts a subfield beside the current one; an empty text is not inserted.

@@ -702,6 +702,8 @@ class Utf8MarcRecordClass {
 
   // Subfield editing (subfield_editing.cpp).  Texts as for AddField.
   void AddSubfield(FieldRecord& field, char code, std::string_view text);
+  void AddParsedSubfield(FieldRecord& field, char code, std::string_view text);
+  void SettleSubfield(const FieldRecord& field, char& code, std::string_view& text);
   void AddControlText(FieldRecord& field, std::string_view text);
   void AddFirstSubfield(FieldRecord& field, char code, std::string_view text);
   void InsertSubfield(FieldRecord& field, char code, std::string_view text, bool after);
@@ -845,7 +847,6 @@ class Utf8MarcRecordClass {
   bool modified_ = false;
   bool in_key_order_ = true;  // the chain stands in ascending order of keys
   bool chain_moved_ = false;  // a field or subfield does not stand where it arrived
-  bool parsing_ = false;      // subfields are added while a field text is parsed
   bool fields_out_of_order_ = false;
   bool subfields_out_of_order_ = false;
   bool field_order_changed_ = false;
