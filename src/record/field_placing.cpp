@@ -88,7 +88,9 @@ void Utf8MarcRecordClass::PlacePaired880(std::int16_t row) {
 }
 
 // Among fields of equal key those of one link stand together, an 880 right
-// behind the field that it pairs with.  This does not ask TestFieldOrder.
+// behind the field that it pairs with.  This does not ask TestFieldOrder.  A
+// field goes before one of its own link, so that 880 fields without a partner
+// (number 00) come in reverse, which is deliberate.
 void Utf8MarcRecordClass::PlaceByLink(std::int16_t row) {
   const FieldRecord& field = table_.Field(row);
   for (std::int16_t other = FirstOfKey(row); other != row; other = table_.Field(other).next) {
