@@ -48,6 +48,7 @@ void Utf8MarcRecordClass::Empty() {
   field_found_ = subfield_found_ = false;
   is_authority_ = modified_ = new_record_ = chain_moved_ = false;
   in_key_order_ = true;
+  subfield_steps_ = 0;
   fields_out_of_order_ = subfields_out_of_order_ = false;
   field_order_changed_ = subfield_order_changed_ = false;
   fields_with_subfields_out_of_order_.clear();

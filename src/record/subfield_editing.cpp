@@ -15,6 +15,11 @@ namespace cantorel {
 
 namespace {
 
+// Steps that the subfields of one record may walk while it is loaded, far beyond
+// what any record needs.  A damaged directory can name one long field thousands
+// of times; what is misplaced after that many steps is reported and not moved.
+constexpr std::int64_t kMostSubfieldSteps = 16'000'000;
+
 constexpr char kUnusableCode = '9';  // stands for a code that is no code
 
 bool IsUsableCode(char code) {
@@ -90,9 +95,11 @@ void Utf8MarcRecordClass::AddParsedSubfield(FieldRecord& field, char code, std::
   before.next = row;
   table_.Subfield(field, row).prev = last;
   field.last_subfield = current_subfield_ = row;
-  const bool stays =
-      parse_order_ == nullptr || parse_order_->StaysLast(code, before.code, parse_saw_title_);
-  if (!stays) WalkIntoPlace();
+  if (parse_order_ == nullptr || parse_order_->StaysLast(code, before.code, parse_saw_title_)) {
+    return;
+  }
+  if (subfield_steps_ > kMostSubfieldSteps) return ReportSubfieldOutOfOrder();
+  WalkIntoPlace(parse_saw_title_);
 }
 
 // What a subfield is added as: an OCLC number in the form wanted, and a code
@@ -162,7 +169,9 @@ void Utf8MarcRecordClass::InsertBesideSubfield(std::string_view code, std::strin
 // wants it.
 void Utf8MarcRecordClass::InsertSubfield(FieldRecord& field, char code, std::string_view text,
                                          bool after) {
-  if (PutSubfieldBeside(field, code, text, after)) WalkIntoPlace();
+  if (PutSubfieldBeside(field, code, text, after)) {
+    WalkIntoPlace(StandsAfterTitle(current_subfield_));
+  }
 }
 
 // Puts a subfield beside the current one; an empty text is not inserted.
@@ -343,11 +352,10 @@ bool Utf8MarcRecordClass::StepSubfield(SubfieldMove direction) {
 }
 
 // Moves the current subfield one place, and on while the order wants it.
-void Utf8MarcRecordClass::ShiftSubfield(SubfieldMove direction) {
-  if (!HasSubfield()) return;
+void Utf8MarcRecordClass::ShiftSubfield(SubfieldMove direction, bool after_title) {
   const bool left = direction == SubfieldMove::kLeft;
-  bool after_title = StandsAfterTitle(current_subfield_);
   do {
+    ++subfield_steps_;
     const std::int16_t beside = left ? CurrentSubfield().prev : CurrentSubfield().next;
     if (!StepSubfield(direction)) return;
     if (table_.Subfield(CurrentField(), beside).code == 't') {
@@ -357,32 +365,29 @@ void Utf8MarcRecordClass::ShiftSubfield(SubfieldMove direction) {
 }
 
 void Utf8MarcRecordClass::SfdShiftLeft() {
-  ShiftSubfield(SubfieldMove::kLeft);
+  if (HasSubfield()) ShiftSubfield(SubfieldMove::kLeft, StandsAfterTitle(current_subfield_));
 }
 
 void Utf8MarcRecordClass::SfdShiftRight() {
-  ShiftSubfield(SubfieldMove::kRight);
+  if (HasSubfield()) ShiftSubfield(SubfieldMove::kRight, StandsAfterTitle(current_subfield_));
 }
 
 // Walks a new subfield to where the subfield order wants it, or reports it.
-void Utf8MarcRecordClass::WalkIntoPlace() {
-  const std::int16_t row = current_subfield_;
-  const SubfieldMove direction = CompareSubfieldOrder(row, StandsAfterTitle(row));
+void Utf8MarcRecordClass::WalkIntoPlace(bool after_title) {
+  const SubfieldMove direction = CompareSubfieldOrder(current_subfield_, after_title);
   if (direction == SubfieldMove::kNone) return;
-  // A $w moves without being recorded.
-  const bool record = CurrentSubfield().code != 'w';
-  if (!test_subfield_order_ || make_no_change_) {
-    if (record) {
-      subfields_out_of_order_ = true;
-      NoteFieldOutOfOrder();
-    }
-    return;
-  }
-  ShiftSubfield(direction);
-  if (record) {
-    subfield_order_changed_ = true;
-    NoteFieldOutOfOrder();
-  }
+  if (!test_subfield_order_ || make_no_change_) return ReportSubfieldOutOfOrder();
+  ShiftSubfield(direction, after_title);
+  // A $w moves, or stays where it is, without being recorded.
+  if (CurrentSubfield().code == 'w') return;
+  subfield_order_changed_ = true;
+  NoteFieldOutOfOrder();
+}
+
+void Utf8MarcRecordClass::ReportSubfieldOutOfOrder() {
+  if (CurrentSubfield().code == 'w') return;
+  subfields_out_of_order_ = true;
+  NoteFieldOutOfOrder();
 }
 
 void Utf8MarcRecordClass::NoteFieldOutOfOrder() {

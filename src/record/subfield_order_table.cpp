@@ -17,7 +17,9 @@ constexpr std::size_t kTagNumbers = 1000;
 // The number of a tag of three digits, otherwise a number beyond them.
 std::size_t TagNumber(std::string_view tag) {
   if (tag.size() != 3 || !std::all_of(tag.begin(), tag.end(), IsAsciiDigit)) return kTagNumbers;
-  return static_cast<std::size_t>((tag[0] - '0') * 100 + (tag[1] - '0') * 10 + (tag[2] - '0'));
+  std::size_t number = 0;
+  for (const char c : tag) number = number * 10 + static_cast<std::size_t>(c - '0');
+  return number;
 }
 
 }  // namespace
@@ -63,6 +65,7 @@ bool SubfieldOrder::BelongsBefore(const SubfieldRule& rule, char right, char lef
 }
 
 SubfieldMove SubfieldOrder::Compare(char own, char prev, char next, bool after_title) const {
+  after_title = after_title && IsRepeated(own);
   const RuleIndex here = RuleOf(own, after_title);
   // Codes of the first rule are not compared with each other: they stay as they
   // are, which is deliberate.

@@ -33,15 +33,16 @@ class SubfieldOrder {
   bool IsRepeated(char code) const { return Slot(code) < kCodes && repeated_[Slot(code)]; }
 
   // Whether a subfield should stand earlier or later than it does.  `prev` and
-  // `next` are the codes beside it, 0 for none.  `after_title` counts only for
-  // a repeated code; it then holds for the neighbours too.
+  // `next` are the codes beside it, 0 for none.  `after_title` is whether a $t
+  // stands before it, which counts only for a repeated code; it then holds for
+  // the neighbours too.
   SubfieldMove Compare(char own, char prev, char next, bool after_title) const;
 
   // Whether a subfield may stay behind `prev` at the end of a field; the question
-  // of a load, where nearly all stay.  `title_seen` is whether the field has a $t.
-  bool StaysLast(char own, char prev, bool title_seen) const {
-    const bool after_title = title_seen && IsRepeated(own);
-    return RuleOf(prev, after_title) < RuleOf(own, after_title) ||
+  // of a load, where nearly all stay.
+  bool StaysLast(char own, char prev, bool after_title) const {
+    const bool in_title = after_title && IsRepeated(own);
+    return RuleOf(prev, in_title) < RuleOf(own, in_title) ||
            Compare(own, prev, '\0', after_title) == SubfieldMove::kNone;
   }
 

@@ -713,8 +713,9 @@ class Utf8MarcRecordClass {
   void LinkSubfields(FieldRecord& field, std::int16_t left, std::int16_t right);
   void ExchangeSubfields(std::int16_t left, std::int16_t right);
   bool StepSubfield(SubfieldMove direction);
-  void ShiftSubfield(SubfieldMove direction);
-  void WalkIntoPlace();
+  void ShiftSubfield(SubfieldMove direction, bool after_title);
+  void WalkIntoPlace(bool after_title);
+  void ReportSubfieldOutOfOrder();
   void NoteFieldOutOfOrder();
   bool PutSubfieldBeside(FieldRecord& field, char code, std::string_view text, bool after);
   void RefileLocalField(std::string_view subfield5);
@@ -814,6 +815,7 @@ class Utf8MarcRecordClass {
   std::vector<std::uint32_t> delimiters_;
   const SubfieldOrder* parse_order_ = nullptr;
   bool parse_saw_title_ = false;
+  std::int64_t subfield_steps_ = 0;  // that subfields walked since the record was loaded
   std::int16_t first_field_ = kNoRow;
   std::int16_t last_field_ = kNoRow;
   std::int16_t field_008_ = kNoRow;
