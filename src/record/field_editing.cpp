@@ -117,16 +117,20 @@ bool Utf8MarcRecordClass::HasLive008() const {
 // Finds the delimiters of a field text once for all that ask about them.
 void Utf8MarcRecordClass::FindDelimiters(std::string_view text) {
   FindOctets(text, kDelimiter, delimiters_);
+  subfield6_ = std::string_view::npos;
+  for (const std::uint32_t place : delimiters_) {
+    if (place + 1 < text.size() && text[place + 1] == '6') {
+      subfield6_ = place;
+      break;
+    }
+  }
 }
 
 // True for an 880 that was given under the tag it stands for: its $6 names the
 // tag itself.
 bool Utf8MarcRecordClass::Is880InDisguise(std::string_view tag, std::string_view text) const {
-  if (tag == "880") return false;
-  for (const std::uint32_t place : delimiters_) {
-    if (place + 1 < text.size() && text[place + 1] == '6') return text.substr(place + 2, 3) == tag;
-  }
-  return false;
+  return subfield6_ != std::string_view::npos && tag != "880" &&
+         text.substr(subfield6_ + 2, 3) == tag;
 }
 
 std::int16_t Utf8MarcRecordClass::AppendFieldRow(std::string_view tag, std::string_view indicators,

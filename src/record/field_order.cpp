@@ -104,7 +104,9 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   const FieldPairing& pairing = field_orders_.Pairing(family);
   std::string_view subfield6;
   const bool is_880 = tag == "880";
-  const bool paired = pairing.on && !tag.starts_with("00") && FindLinkingSubfield(text, subfield6);
+  const bool paired = pairing.on && subfield6_ != std::string_view::npos &&
+                      !tag.starts_with("00") &&
+                      FindSubfieldText(text.substr(subfield6_), '6', subfield6);
   if (paired && is_880 && IsTag(subfield6.substr(0, 3))) {
     field.tag = subfield6.substr(0, 3);
     const bool lc_heading = pairing.lc && family == FormatFamily::kBibliographic;
@@ -120,17 +122,6 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   if (paired) AppendLinkPart(subfield6, is_880, order_key_);
   const std::string_view whole = table_.Arena().Keep(order_key_);
   return {whole.substr(0, length), whole.substr(length)};
-}
-
-// Finds the $6, which nearly all fields are without, among the known delimiters.
-bool Utf8MarcRecordClass::FindLinkingSubfield(std::string_view text,
-                                              std::string_view& subfield6) const {
-  for (const std::uint32_t place : delimiters_) {
-    if (place + 1 < text.size() && text[place + 1] == '6') {
-      return FindSubfieldText(text.substr(place), '6', subfield6);
-    }
-  }
-  return false;
 }
 
 // Adds what orders the fields of one range to the key.

@@ -752,7 +752,6 @@ class Utf8MarcRecordClass {
   // Order (field_order.cpp, subfield_order.cpp).
   OrderKey MakeFieldOrderKey(std::string_view tag, std::string_view indicators,
                              std::string_view text);
-  bool FindLinkingSubfield(std::string_view text, std::string_view& subfield6) const;
   void AppendKeyOfKind(FieldOrderKind kind, const SortedField& field);
   void AppendIndicator2(const SortedField& field);
   bool PairingIsOn() const;
@@ -810,9 +809,11 @@ class Utf8MarcRecordClass {
 
   // The table and its chain.
   FieldTable table_;
-  // The field text at hand while it is parsed: the places of its delimiters, the
-  // order of its subfields (null: none), and whether a $t was among them.
+  // The data field text at hand: the places of its delimiters and of its first
+  // $6, and while it is parsed the order of its subfields (null: none) and whether
+  // a $t was among them.
   std::vector<std::uint32_t> delimiters_;
+  std::size_t subfield6_ = std::string_view::npos;
   const SubfieldOrder* parse_order_ = nullptr;
   bool parse_saw_title_ = false;
   std::int64_t subfield_steps_ = 0;  // that subfields walked since the record was loaded
