@@ -2,7 +2,7 @@
 # An installed Cantorel: a project of somebody else finds and uses the library,
 # and the command finds its configuration.
 set -euo pipefail
-cmake=$1 build=$2 compiler=$3
+cmake=$1 build=$2 compiler=$3 generator=$4
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -27,8 +27,9 @@ int main() {
 }
 TEXT
 flags=$(sed -n 's/^CANTOREL_SANITIZE:BOOL=ON$/-fsanitize=address,undefined/p' "$build/CMakeCache.txt")
-"$cmake" -S "$scratch/project" -B "$scratch/project/build" -DCMAKE_PREFIX_PATH="$scratch/prefix" \
-  -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" >"$scratch/log"
+"$cmake" -G "$generator" -S "$scratch/project" -B "$scratch/project/build" \
+  -DCMAKE_PREFIX_PATH="$scratch/prefix" -DCMAKE_CXX_COMPILER="$compiler" \
+  -DCMAKE_CXX_FLAGS="$flags" >"$scratch/log"
 "$cmake" --build "$scratch/project/build" >"$scratch/log" || { cat "$scratch/log"; exit 1; }
 "$scratch/project/build/guest"
 
