@@ -9,14 +9,12 @@
 #include "cli/output.h"
 #include "genre/configuration_check.h"
 #include "genre/derivation_table_build.h"
+#include "medium/configuration_files.h"
 #include "platform/file_layer.h"
 #include "record/utf8_marc_record_class.h"
 
 namespace cantorel::cli {
 namespace {
-
-constexpr std::string_view kVocabulary = "MusicMedium.Lcmpt.txt";
-constexpr std::string_view kDerivationTable = "Music6xxTo655.txt";
 
 // "List 3        12 keys     20 fields"
 std::string CountLine(const SheetCount& count) {
@@ -31,7 +29,7 @@ std::string CountLine(const SheetCount& count) {
 ExitStatus RunConfigBuild(const Options& options) {
   std::string folder = options.configuration_folder;
   if (!FindFolder(folder)) return kWrongCall;
-  const std::string table = folder + std::string(kDerivationTable);
+  const std::string table = folder + std::string(kDerivationTableFileName);
   DerivationBuild build;
   BuildDerivationTable(folder, Utf8MarcRecordClass(), build);
   if (!build.written) {
@@ -53,12 +51,12 @@ ExitStatus RunConfigCheck(const Options& options) {
   if (!FindFolder(folder)) return kWrongCall;
   std::string vocabulary;
   std::string table;
-  if (!ReadWholeFile(folder + std::string(kVocabulary), vocabulary)) {
+  if (!ReadWholeFile(folder + std::string(kVocabularyFileName), vocabulary)) {
     std::fprintf(stderr, "cantorel: configuration folder %s has no %s\n", folder.c_str(),
-                 kVocabulary.data());
+                 kVocabularyFileName.data());
     return kWrongCall;
   }
-  ReadWholeFile(folder + std::string(kDerivationTable), table);
+  ReadWholeFile(folder + std::string(kDerivationTableFileName), table);
   ConfigurationCheck check;
   check.ReadVocabulary(vocabulary);
   check.ReadTable(table);

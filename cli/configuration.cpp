@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "genre/derivation_table_build.h"
+#include "medium/configuration_files.h"
 #include "platform/file_layer.h"
 #include "record/utf8_marc_record_class.h"
 #include "service/cantorel_class.h"
@@ -16,8 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kVocabulary = "MusicMedium.Lcmpt.txt";
-constexpr std::string_view kDerivationTable = "Music6xxTo655.txt";
 // Where the folder stands as seen from the program: installed, beside it, and
 // from build/<preset>/ in a source tree.
 constexpr std::string_view kPlaces[] = {"../share/cantorel/config", "config", "../config",
@@ -34,7 +33,8 @@ std::string FolderOfProgram() {
   const fs::path program_folder = ProgramFolder();
   for (const std::string_view place : kPlaces) {
     const fs::path folder = program_folder / place;
-    if (FileExists((folder / kVocabulary).string())) return folder.lexically_normal().string();
+    if (FileExists((folder / kVocabularyFileName).string()))
+      return folder.lexically_normal().string();
   }
   return {};
 }
@@ -58,14 +58,14 @@ bool Configure(CantorelClass& cantorel, std::string folder) {
   if (!FindFolder(folder)) return false;
   // The whole path, because the component has a meaning of its own for "me".
   cantorel.ConfigurationPath(folder);
-  if (!FileExists(folder + std::string(kVocabulary))) {
-    return Refuse(folder, "has no " + std::string(kVocabulary));
+  if (!FileExists(folder + std::string(kVocabularyFileName))) {
+    return Refuse(folder, "has no " + std::string(kVocabularyFileName));
   }
   // The component looks for the table at its first call, whatever it is given.
   if (cantorel.AddFields({}, 1) != kNoDerivationTable) return true;
   DerivationBuild build;
   BuildDerivationTable(folder, Utf8MarcRecordClass(), build);
-  return Refuse(folder, "has no usable " + std::string(kDerivationTable) +
+  return Refuse(folder, "has no usable " + std::string(kDerivationTableFileName) +
                             ", and none can be made: " + WhyNotWritten(build));
 }
 

@@ -6,6 +6,7 @@
 #include "charset/octet_text.h"
 #include "genre/derivation_table_build.h"
 #include "medium/code_point_escapes.h"
+#include "medium/configuration_files.h"
 #include "medium/medium_vocabulary.h"
 #include "platform/profile_text.h"
 #include "record/utf8_marc_record_class.h"
@@ -81,7 +82,7 @@ void ConfigurationCheck::ReadVocabulary(std::string_view text) {
 }
 
 void ConfigurationCheck::ReadTable(std::string_view text) {
-  BeginFile("Music6xxTo655.txt");
+  BeginFile(kDerivationTableFileName);
   text = SkipUtf8Signature(text);
   bool signed_table = false;
   while (!text.empty()) {

@@ -1,13 +1,12 @@
 #include "genre/derivation_table_build.h"
 
 #include "genre/derivation_sheets.h"
+#include "medium/configuration_files.h"
 #include "platform/new_file.h"
 #include "record/utf8_marc_record_class.h"
 
 namespace cantorel {
 namespace {
-
-constexpr std::string_view kTableName = "Music6xxTo655.txt";
 
 // That a file is a table is told by this line.
 constexpr std::string_view kSignature =
@@ -121,7 +120,7 @@ WorkbookError MakeDerivationTable(Workbook& workbook, const Utf8MarcRecordClass&
 void BuildDerivationTable(std::string_view folder, const Utf8MarcRecordClass& record,
                           DerivationBuild& build) {
   build = {};
-  NewFile table(std::string(folder) + std::string(kTableName));
+  NewFile table(std::string(folder) + std::string(kDerivationTableFileName));
   build.folder_takes_files = table.IsOpen();
   if (!table.IsOpen()) return;
   std::string text;

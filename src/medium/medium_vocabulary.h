@@ -24,6 +24,7 @@
 #include <string>
 #include <string_view>
 
+#include "medium/configuration_files.h"
 #include "medium/conversion_report.h"
 #include "medium/music_session.h"
 #include "medium/string_map.h"
@@ -31,9 +32,6 @@
 namespace cantorel {
 
 class Utf8MarcRecordClass;
-
-// The name of the file in the configuration folder.
-inline constexpr std::string_view kVocabularyFileName = "MusicMedium.Lcmpt.txt";
 
 class MediumVocabulary {
  public:

@@ -5,13 +5,12 @@
 #include <cstddef>
 
 #include "charset/marc_control.h"
+#include "medium/configuration_files.h"
 #include "platform/clock.h"
 
 namespace cantorel {
 
 namespace {
-
-constexpr std::string_view kDerivationTableName = "Music6xxTo655.txt";
 
 // The folder of a path with its backslash; empty for a bare file name.
 std::string_view FolderOf(std::string_view path) {
@@ -47,7 +46,7 @@ void Music650To382Class::SettleConfigurationFolder() {
     configuration_folder_ = session_.second_record->FldOrderFolder();
   }
   derivation_table_ = configuration_folder_;
-  if (!derivation_table_.empty()) derivation_table_ += kDerivationTableName;
+  if (!derivation_table_.empty()) derivation_table_ += kDerivationTableFileName;
 }
 
 void Music650To382Class::Parm_Subfield2Code(std::string_view code) {

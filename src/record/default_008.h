@@ -3,9 +3,14 @@
 #ifndef CANTOREL_RECORD_DEFAULT_008_H_
 #define CANTOREL_RECORD_DEFAULT_008_H_
 
+#include <cstddef>
 #include <string_view>
 
 namespace cantorel {
+
+// Octets of an 008, and of one of a holdings record.
+inline constexpr std::size_t k008Length = 40;
+inline constexpr std::size_t k008LengthHoldings = 32;
 
 struct Default008Template {
   char format;

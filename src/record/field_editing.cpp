@@ -8,6 +8,7 @@
 #include "charset/octet_scan.h"
 #include "charset/octet_text.h"
 #include "charset/utf8.h"
+#include "record/default_008.h"
 #include "record/record_image.h"
 #include "record/safe_text.h"
 #include "record/utf8_marc_record_class.h"
@@ -15,9 +16,6 @@
 namespace cantorel {
 
 namespace {
-
-constexpr std::size_t k008Length = 40;
-constexpr std::size_t k008LengthHoldings = 32;
 
 bool IsFieldTag(std::string_view tag) {
   return tag.size() == 3 && std::all_of(tag.begin(), tag.end(), IsAsciiDigit);

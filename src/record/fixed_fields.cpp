@@ -36,8 +36,6 @@ constexpr Blank007 kBlank007[] = {
 constexpr std::size_t kUnknown007Length = 14;
 constexpr std::size_t kFilled007Length = 6;
 
-constexpr std::size_t k008Length = 40;
-constexpr std::size_t k008LengthHoldings = 32;
 constexpr std::size_t k008LengthQ = 15;
 constexpr std::size_t k008LengthW = 14;
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "medium/configuration_files.h"
 #include "platform/profile_file.h"
 #include "service/answer.h"
 #include "service/cantorel_class.h"
@@ -28,7 +29,7 @@ constexpr std::array<std::string_view, 6> kTagsToDerive = {"046", "370", "382",
 bool TableHasSignature() {
   constexpr std::int32_t kSignatureLength = 15;
   const std::string table =
-      TheServiceState().configuration_folder + std::string(kDerivationTableName);
+      TheServiceState().configuration_folder + std::string(kDerivationTableFileName);
   return !GetIniValue(table, "FileSignature", "FilePresent", kSignatureLength).empty();
 }
 

@@ -13,7 +13,7 @@ std::string InFolder(std::string_view name) {
 }
 
 void NameVocabulary() {
-  TheMusicClass().Parm_InstrumentNameConfigurationFile(InFolder(kVocabularyName));
+  TheMusicClass().Parm_InstrumentNameConfigurationFile(InFolder(kVocabularyFileName));
 }
 
 // Any value asks for the table of derivations to be built when it is missing.

@@ -8,8 +8,6 @@
 namespace cantorel {
 
 inline constexpr std::string_view kSettingsFileName = "Cantorel.INI";
-inline constexpr std::string_view kVocabularyName = "MusicMedium.Lcmpt.txt";
-inline constexpr std::string_view kDerivationTableName = "Music6xxTo655.txt";
 
 // Points every service object of the thread at a folder and empties the
 // vocabularies.  A text whose comparison form is "ME" stands for the folder of
