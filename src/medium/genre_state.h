@@ -22,6 +22,12 @@ struct GenreState {
   bool table_build_tried = false;
   bool table_built = false;
 
+  // A look-up of a term failed: no term is looked up any more.  Survives Reset.
+  bool look_up_offline = false;
+  // Names of nationalities, in lower case, to their authorized form, or to
+  // kNoNationality (genre/linked_data.h).
+  StringMap<std::string> nationalities;
+
   // --- Of the record under work ------------------------------------------------
 
   // For the host, one a line: tag, indicators and text of the headings looked
@@ -81,6 +87,7 @@ struct GenreState {
   void ClearDictionaries() {
     style_qualifiers.clear();
     style_terms.RemoveAll();
+    nationalities.RemoveAll();
   }
 };
 

@@ -229,6 +229,31 @@ class Music650To382Class {
   void Private_655_TestLanguageCode(std::string_view codes, std::string_view language_name,
                                     Utf8MarcRecordClass& record);
 
+  // Look-ups at the linked-data service (genre/linked_data.cpp).  They load what
+  // they find into `scratch_record`.
+  //
+  // Whether `label` is an authorized heading of a vocabulary: "afset", "lcdgt",
+  // "lcgft", "lcmpt", "lcsh" or "naf"; any other has none.
+  //   authorized_form  the heading as its authority record has it, or empty
+  // After one request that failed nothing is found, and nothing asked, as long as
+  // the object lives.
+  void Private_655_LookUpTerm(std::string_view vocabulary, std::string_view label,
+                              std::string& authorized_form, Utf8MarcRecordClass& scratch_record,
+                              bool& found);
+  // Whether `label` names a nationality or an ethnic group.
+  //   form   its authorized name, or empty
+  //   spare  no effect
+  // Asks again after a request that failed.
+  void Private_655_LookUpNationality(Utf8MarcRecordClass& record,
+                                     Utf8MarcRecordClass& scratch_record, std::string_view label,
+                                     std::string& form, std::string& spare, bool& found);
+  // Loads the authority record of an identifier, such as "dg2015060001" of the
+  // path "authorities/demographicTerms".
+  //   found  whether the service answered, whatever its answer holds
+  void Private_655_FetchAuthorityRecord(std::string_view identifier,
+                                        std::string_view collection_path,
+                                        Utf8MarcRecordClass& scratch_record, bool& found);
+
   // --- Messages and reports (indexes from 1) -----------------------------------
 
   ConversionReport& Report() { return report_; }

@@ -11,6 +11,7 @@
 namespace cantorel {
 
 class FieldSelector;
+class HttpGet;
 class Utf8MarcRecordClass;
 
 struct MusicSession {
@@ -24,6 +25,12 @@ struct MusicSession {
   EnsembleCache ensembles;
   // The host's way of letting the user choose; null when it has none.
   FieldSelector* field_selector = nullptr;
+  // How look-ups reach the linked-data service; null when they are to ask nothing.
+  HttpGet* http_get = nullptr;
+  // Addresses of the services without a slash at the end; empty for those that
+  // the program was built with.
+  std::string linked_data_url{};
+  std::string permalink_url{};
 };
 
 }  // namespace cantorel
