@@ -1,10 +1,13 @@
 #include "cli/config_command.h"
 
+#include <CLI/CLI.hpp>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "cli/common_options.h"
 #include "cli/configuration.h"
 #include "cli/output.h"
 #include "genre/configuration_check.h"
@@ -24,10 +27,8 @@ std::string CountLine(const SheetCount& count) {
   return std::string(line, static_cast<std::size_t>(length));
 }
 
-}  // namespace
-
-ExitStatus RunConfigBuild(const Options& options) {
-  std::string folder = options.configuration_folder;
+// Makes the derivation table anew, whether there is one or not.
+ExitStatus RunConfigBuild(std::string folder) {
   if (!FindFolder(folder)) return kWrongCall;
   const std::string table = folder + std::string(kDerivationTableFileName);
   DerivationBuild build;
@@ -46,8 +47,7 @@ ExitStatus RunConfigBuild(const Options& options) {
   return WriteOutput(text) && FinishOutput() ? kAllWell : kInputOutputFailed;
 }
 
-ExitStatus RunConfigCheck(const Options& options) {
-  std::string folder = options.configuration_folder;
+ExitStatus RunConfigCheck(std::string folder) {
   if (!FindFolder(folder)) return kWrongCall;
   std::string vocabulary;
   std::string table;
@@ -67,6 +67,29 @@ ExitStatus RunConfigCheck(const Options& options) {
   for (const std::string& finding : findings) text += finding + "\n";
   if (!WriteOutput(text) || !FinishOutput()) return kInputOutputFailed;
   return findings.empty() ? kAllWell : kSomethingFound;
+}
+
+// A command below "config" that works on a configuration folder.
+void AddFolderCommand(CLI::App& config, const std::string& name, const std::string& help,
+                      ExitStatus (*run)(std::string folder), Action& action) {
+  CLI::App* const command = config.add_subcommand(name, help);
+  const auto folder = std::make_shared<std::string>();
+  AddFolderOption(*command, *folder);
+  command->callback([&action, run, folder] { action = [run, folder] { return run(*folder); }; });
+}
+
+}  // namespace
+
+void AddConfigCommand(CLI::App& app, Action& action) {
+  CLI::App* const config =
+      app.add_subcommand("config", "Build and check the files of the configuration folder");
+  config->require_subcommand(1);
+  AddFolderCommand(*config, "build",
+                   "Make the derivation table from its workbook, and say what each sheet gave",
+                   RunConfigBuild, action);
+  AddFolderCommand(*config, "check",
+                   "List what a maintainer of vocabulary, table and workbook should look at",
+                   RunConfigCheck, action);
 }
 
 }  // namespace cantorel::cli

@@ -3,14 +3,11 @@
 #ifndef CANTOREL_CLI_CONFIG_COMMAND_H_
 #define CANTOREL_CLI_CONFIG_COMMAND_H_
 
-#include "cli/exit_status.h"
-#include "cli/options.h"
+#include "cli/command_line.h"
 
 namespace cantorel::cli {
 
-// Makes the derivation table anew, whether there is one or not.
-ExitStatus RunConfigBuild(const Options& options);
-ExitStatus RunConfigCheck(const Options& options);
+void AddConfigCommand(CLI::App& app, Action& action);
 
 }  // namespace cantorel::cli
 

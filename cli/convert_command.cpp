@@ -1,26 +1,40 @@
 #include "cli/convert_command.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cinttypes>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/answer.h"
+#include "cli/answer_writers.h"
 #include "cli/ask.h"
+#include "cli/common_options.h"
+#include "cli/conversion_options.h"
 #include "cli/input_buffer.h"
 #include "cli/output.h"
 #include "cli/record_reader.h"
 #include "record/utf8_marc_record_class.h"
-#include "service/cantorel_class.h"
 
 namespace cantorel::cli {
 namespace {
 
+const std::map<std::string, Format> kFormats = {{"text", Format::kText}, {"json", Format::kJson}};
+
+struct ConvertOptions {
+  ConversionOptions conversion;
+  Format format = Format::kText;
+  bool lines = false;
+  std::vector<std::string> files;
+};
+
 class Conversion {
  public:
-  Conversion(CantorelClass& cantorel, const Options& options)
+  Conversion(CantorelClass& cantorel, const ConvertOptions& options)
       : cantorel_(cantorel), options_(options) {}
 
   ExitStatus Run() {
@@ -72,7 +86,7 @@ class Conversion {
   }
 
   bool Answer(std::string_view record) {
-    AskAboutRecord(cantorel_, record, options_.mode, answer_);
+    AskAboutRecord(cantorel_, record, options_.conversion.mode, answer_);
     out_.clear();
     AppendAnswer(options_.format, answer_, out_);
     return WriteOutput(out_);
@@ -85,17 +99,31 @@ class Conversion {
   }
 
   CantorelClass& cantorel_;
-  const Options& options_;
+  const ConvertOptions& options_;
   ExitStatus status_ = kAllWell;
   Utf8MarcRecordClass record_;  // judges and repairs what was read
   RecordAnswer answer_;         // its memory serves every record
   std::string out_;
 };
 
+ExitStatus RunConvert(const ConvertOptions& options) {
+  Converter converter;
+  if (!converter.Prepare(options.conversion)) return kWrongCall;
+  return Conversion(converter.Component(), options).Run();
+}
+
 }  // namespace
 
-ExitStatus RunConvert(CantorelClass& cantorel, const Options& options) {
-  return Conversion(cantorel, options).Run();
+void AddConvertCommand(CLI::App& app, Action& action) {
+  CLI::App* const command =
+      app.add_subcommand("convert", "Read MARC records and write the fields that each should have");
+  const auto options = std::make_shared<ConvertOptions>();
+  AddConversionOptions(*command, options->conversion);
+  AddChoice(*command, "--format", options->format, kFormats, "Form of the answers");
+  command->add_flag("--lines", options->lines,
+                    "Read field lines, with $ as delimiter and a blank line between records");
+  AddFileArguments(*command, options->files);
+  command->callback([&action, options] { action = [options] { return RunConvert(*options); }; });
 }
 
 }  // namespace cantorel::cli

@@ -3,16 +3,11 @@
 #ifndef CANTOREL_CLI_CONVERT_COMMAND_H_
 #define CANTOREL_CLI_CONVERT_COMMAND_H_
 
-#include "cli/exit_status.h"
-#include "cli/options.h"
-
-namespace cantorel {
-class CantorelClass;
-}
+#include "cli/command_line.h"
 
 namespace cantorel::cli {
 
-ExitStatus RunConvert(CantorelClass& cantorel, const Options& options);
+void AddConvertCommand(CLI::App& app, Action& action);
 
 }  // namespace cantorel::cli
 

@@ -1,13 +1,17 @@
 #include "cli/heading_command.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/answer.h"
+#include "cli/answer_writers.h"
 #include "cli/ask.h"
+#include "cli/conversion_options.h"
 #include "cli/output.h"
-#include "service/cantorel_class.h"
 
 namespace cantorel::cli {
 namespace {
@@ -15,6 +19,12 @@ namespace {
 constexpr char kDelimiter = '\x1F';
 // A printed score of one work, with an LC subject heading.
 constexpr std::string_view kRecordLines = "cm\n650 0";
+
+struct HeadingOptions {
+  ConversionOptions conversion;
+  bool json = false;
+  std::vector<std::string> words;  // of the heading
+};
 
 std::string_view Trimmed(std::string_view text) {
   constexpr std::string_view kBlanks = " \t\r\n";
@@ -27,6 +37,28 @@ void AppendSubfield(char code, std::string_view text, std::string& out) {
   out += kDelimiter;
   out += code;
   out += text;
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += text.empty() ? word : ' ' + word;
+  return text;
+}
+
+ExitStatus RunHeading(const HeadingOptions& options) {
+  Converter converter;
+  if (!converter.Prepare(options.conversion)) return kWrongCall;
+  const std::string heading = Joined(options.words);
+  RecordAnswer answer;
+  AskAboutRecord(converter.Component(), std::string(kRecordLines) + HeadingFieldText(heading),
+                 options.conversion.mode, answer);
+  answer.source = "heading";
+  answer.record = 1;
+  answer.title = Trimmed(heading);
+
+  std::string out;
+  AppendAnswer(options.json ? Format::kJson : Format::kText, answer, out);
+  return WriteOutput(out) && FinishOutput() ? kAllWell : kInputOutputFailed;
 }
 
 }  // namespace
@@ -49,17 +81,14 @@ std::string HeadingFieldText(std::string_view heading) {
   }
 }
 
-ExitStatus RunHeading(CantorelClass& cantorel, const Options& options) {
-  const std::string field_text = HeadingFieldText(options.heading);
-  RecordAnswer answer;
-  AskAboutRecord(cantorel, std::string(kRecordLines) + field_text, options.mode, answer);
-  answer.source = "heading";
-  answer.record = 1;
-  answer.title = Trimmed(options.heading);
-
-  std::string out;
-  AppendAnswer(options.format, answer, out);
-  return WriteOutput(out) && FinishOutput() ? kAllWell : kInputOutputFailed;
+void AddHeadingCommand(CLI::App& app, Action& action) {
+  CLI::App* const command = app.add_subcommand(
+      "heading", "Show what one subject heading gives; $v, $x and so on may follow it");
+  const auto options = std::make_shared<HeadingOptions>();
+  AddConversionOptions(*command, options->conversion);
+  command->add_flag("--json", options->json, "Write the answer as JSON");
+  command->add_option("HEADING", options->words, "Text of the heading")->required();
+  command->callback([&action, options] { action = [options] { return RunHeading(*options); }; });
 }
 
 }  // namespace cantorel::cli

@@ -6,16 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "cli/exit_status.h"
-#include "cli/options.h"
-
-namespace cantorel {
-class CantorelClass;
-}
+#include "cli/command_line.h"
 
 namespace cantorel::cli {
 
-ExitStatus RunHeading(CantorelClass& cantorel, const Options& options);
+void AddHeadingCommand(CLI::App& app, Action& action);
 
 // Field text of a heading as people write it: "$" and a code begin a subfield,
 // blanks around it counting for nothing; what stands ahead of the first is $a.

@@ -2,6 +2,7 @@
 
 #include "genre/derivation_sheets.h"
 #include "medium/configuration_files.h"
+#include "platform/file_layer.h"
 #include "platform/new_file.h"
 #include "record/utf8_marc_record_class.h"
 
@@ -120,12 +121,14 @@ WorkbookError MakeDerivationTable(Workbook& workbook, const Utf8MarcRecordClass&
 void BuildDerivationTable(std::string_view folder, const Utf8MarcRecordClass& record,
                           DerivationBuild& build) {
   build = {};
-  NewFile table(std::string(folder) + std::string(kDerivationTableFileName));
+  NewFile table(NativePath(std::string(folder) + std::string(kDerivationTableFileName)));
   build.folder_takes_files = table.IsOpen();
   if (!table.IsOpen()) return;
   std::string text;
   build.workbook_error = ReadWorkbookOf(folder, record, text, build);
-  if (build.workbook_error == WorkbookError::kNone) build.written = table.Complete(text);
+  if (build.workbook_error == WorkbookError::kNone) {
+    build.written = table.Write(text) && table.Complete();
+  }
 }
 
 }  // namespace cantorel

@@ -3,10 +3,10 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
-
-#include "platform/file_layer.h"
+#include <utility>
 
 namespace cantorel {
 namespace {
@@ -19,8 +19,8 @@ std::string NameBeside(const std::string& target) {
 
 }  // namespace
 
-NewFile::NewFile(std::string_view target)
-    : target_(NativePath(target)),
+NewFile::NewFile(std::string target)
+    : target_(std::move(target)),
       name_(NameBeside(target_)),
       file_(std::fopen(name_.c_str(), "wb")) {}
 
@@ -30,15 +30,24 @@ NewFile::~NewFile() {
   std::remove(name_.c_str());
 }
 
-bool NewFile::Complete(std::string_view content) {
+bool NewFile::Write(std::string_view content) {
   if (file_ == nullptr) return false;
-  bool sound = std::fwrite(content.data(), 1, content.size(), file_) == content.size();
-  sound = std::fclose(file_) == 0 && sound;  // closing writes what is still on its way
+  sound_ = std::fwrite(content.data(), 1, content.size(), file_) == content.size() && sound_;
+  return sound_;
+}
+
+bool NewFile::Complete() {
+  if (file_ == nullptr) return false;
+  const bool closed = std::fclose(file_) == 0;  // writes what is still on its way
   file_ = nullptr;
   std::error_code error;
-  if (sound) std::filesystem::rename(name_, target_, error);
-  if (sound && !error) return true;
+  if (closed && sound_) {
+    std::filesystem::rename(name_, target_, error);
+    if (!error) return true;
+  }
+  const int why = error ? error.value() : errno;
   std::remove(name_.c_str());
+  errno = why;
   return false;
 }
 

@@ -14,8 +14,8 @@ namespace cantorel {
 // stood there.
 class NewFile {
  public:
-  // '\' counts as separator.
-  explicit NewFile(std::string_view target);
+  // `target` is a name as the system wants it.
+  explicit NewFile(std::string target);
   // Removes what was not put in place.
   ~NewFile();
   NewFile(const NewFile&) = delete;
@@ -24,14 +24,17 @@ class NewFile {
   // False when nothing can be written in the folder of the target.
   bool IsOpen() const { return file_ != nullptr; }
 
-  // Writes the content and puts the file in the place of its target.  False, the
-  // target being as it was, when either failed.
-  bool Complete(std::string_view content);
+  // All of these answer false, errno telling why, when the system refuses.
+  bool Write(std::string_view content);
+  // Puts what was written in the place of the target.  After a failure, here or
+  // in Write, the target is as it was.
+  bool Complete();
 
  private:
   std::string target_;
   std::string name_;
   std::FILE* file_;
+  bool sound_ = true;  // every octet so far was taken
 };
 
 }  // namespace cantorel
