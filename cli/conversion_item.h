@@ -1,0 +1,41 @@
+// A record on its way through cantorel convert: read, converted, written.
+//
+// Items and results share nothing with each other or with those who make them,
+// so that several records may be on their way at once; only the names of the
+// inputs are views of the list that the command was called with.
+
+#ifndef CANTOREL_CLI_CONVERSION_ITEM_H_
+#define CANTOREL_CLI_CONVERSION_ITEM_H_
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "cli/answer.h"
+
+namespace cantorel::cli {
+
+// What was read: a record, or the failure with which an input ended.
+struct ConversionItem {
+  std::string_view source;   // name of the input, "-" for standard input
+  std::uint64_t number = 0;  // of the record in its input, from 1
+  std::uint64_t offset = 0;  // of its first octet, from 0
+  std::string octets;        // the record as it came
+  std::string read_error;    // why the input could not be read on; else empty
+};
+
+// What became of it.
+struct ConversionResult {
+  RecordAnswer answer;
+  std::string answer_text;  // the answer in the form asked for
+  std::string fault;        // why there is no answer; else empty
+
+  void Clear() {
+    answer_text.clear();
+    fault.clear();
+  }
+};
+
+}  // namespace cantorel::cli
+
+#endif  // CANTOREL_CLI_CONVERSION_ITEM_H_
