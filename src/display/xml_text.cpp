@@ -1,129 +1,97 @@
-// Character references in text: the five escapes of XML, the names of HTML, and
-// numbers.
+#include "display/xml_text.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstddef>
+#include <array>
 #include <cstdint>
-#include <iterator>
-#include <string>
-#include <string_view>
 
+#include "charset/utf8.h"
 #include "charset/utf8_code_point.h"
-#include "display/tables/html_entities.h"
-#include "record/utf8_marc_record_class.h"
+#include "display/xml_characters.h"
 
 namespace cantorel {
 namespace {
 
-// The longest reference that is looked at, between "&" and ";".
-constexpr std::size_t kLongestReference = 32;
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 
-// Names that stand for a text, not for a code point.  "apos" belongs to XML and
-// not to HTML.  "ang" gives the digits of its number, not the angle sign: that
-// is deliberate, since records made so far hold it so.
-struct TextEntity {
-  std::string_view name;
-  std::string_view text;
-};
-constexpr TextEntity kTextEntities[] = {{"ang", "8736"}, {"apos", "'"}};
-
-// The code points that XML allows in a text.  The others stay references: among
-// them are the octets that hold a record together.
-bool MayStandInText(std::uint32_t code) {
-  if (code < 0x20) return code == '\t' || code == '\n' || code == '\r';
-  return code < 0xD800 || (code > 0xDFFF && code < 0xFFFE) || (code > 0xFFFF && code <= 0x10FFFF);
-}
-
-// The code point of "#193" or "#xC1"; 0 for what is none.
-std::uint32_t CodeOfNumber(std::string_view reference) {
-  reference.remove_prefix(1);
-  int base = 10;
-  if (!reference.empty() && (reference.front() == 'x' || reference.front() == 'X')) {
-    reference.remove_prefix(1);
-    base = 16;
+constexpr std::string_view EscapeOf(char c) {
+  switch (c) {
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '&':
+      return "&amp;";
+    case '"':
+      return "&quot;";
+    case '\'':
+      return "&apos;";
+    default:
+      return {};
   }
-  std::uint32_t code = 0;
-  const char* const end = reference.data() + reference.size();
-  const auto [stop, error] = std::from_chars(reference.data(), end, code, base);
-  return error == std::errc() && stop == end && MayStandInText(code) ? code : 0;
 }
 
-// The code point of "aacute"; 0 for a name that HTML does not know.
-std::uint32_t CodeOfName(std::string_view name) {
-  const auto* place = std::lower_bound(
-      std::begin(kHtmlEntities), std::end(kHtmlEntities), name,
-      [](const HtmlEntity& entity, std::string_view wanted) { return entity.name < wanted; });
-  return place != std::end(kHtmlEntities) && place->name == name ? place->code_point : 0;
-}
-
-// Appends a code point as the set wants it.  The 8-bit sets take ASCII as it is
-// and the rest as the token for what they lack.
-void AppendCodePoint(std::uint32_t code, bool utf8, std::string& out) {
-  if (utf8 || code < 0x80) return AppendUtf8(code, out);
-  char digits[8];
-  const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), code, 16);
-  std::transform(digits, end, digits, [](char c) { return c >= 'a' ? c - 32 : c; });
-  out.append("&#x").append(digits, end).push_back(';');
-}
-
-// Appends what a reference stands for; false when it stands for nothing.
-bool AppendReference(std::string_view reference, bool utf8, std::string& out) {
-  for (const TextEntity& entity : kTextEntities) {
-    if (entity.name != reference) continue;
-    out.append(entity.text);
-    return true;
+// Octets that go into XML as they are: ASCII that XML allows and that needs no
+// escape.
+constexpr std::array<bool, 256> kPlain = [] {
+  std::array<bool, 256> plain{};
+  for (unsigned c = 0; c < 0x80; ++c) {
+    plain[c] = IsXmlCharacter(c) && EscapeOf(static_cast<char>(c)).empty();
   }
-  const std::uint32_t code =
-      reference.front() == '#' ? CodeOfNumber(reference) : CodeOfName(reference);
-  if (code == 0) return false;
-  AppendCodePoint(code, utf8, out);
-  return true;
+  return plain;
+}();
+
+std::size_t PlainLength(std::string_view text, std::size_t from) {
+  std::size_t end = from;
+  while (end < text.size() && kPlain[Octet(text[end])]) ++end;
+  return end - from;
 }
 
-// What stands between the "&" at the start of `text` and the next ";"; empty
-// when no reference begins here.
-std::string_view ReferenceAt(std::string_view text) {
-  const std::string_view near = text.substr(1, kLongestReference + 1);
-  const std::size_t end = near.find_first_of(";&");
-  if (end == std::string_view::npos || near[end] == '&') return {};
-  return near.substr(0, end);
-}
-
-void NoBreakSpacesToBlanks(std::string& text) {
-  constexpr std::string_view kNoBreakSpace = "\xC2\xA0";
-  std::size_t from = text.find(kNoBreakSpace);
-  if (from == std::string::npos) return;
-  std::size_t to = from;
-  while (from < text.size()) {
-    const bool hit = text.compare(from, kNoBreakSpace.size(), kNoBreakSpace) == 0;
-    text[to++] = hit ? ' ' : text[from];
-    from += hit ? kNoBreakSpace.size() : 1;
+// How many octets at `position` go together in a place where no character
+// begins: what could still have become one.
+std::size_t DamagedLength(std::string_view text, std::size_t position) {
+  const std::size_t announced = Utf8AnnouncedOctets(text[position]);
+  std::size_t length = 1;
+  while (length < announced && position + length < text.size() &&
+         IsUtf8Continuation(text[position + length])) {
+    ++length;
   }
-  text.resize(to);
+  return length;
 }
 
 }  // namespace
 
-std::string Utf8MarcRecordClass::XmlUnconditionText(std::string_view text, bool /*flag*/) const {
-  const bool utf8 = CharacterSetOut() == "U";
-  std::string out;
-  out.reserve(text.size());
-  while (!text.empty()) {
-    const std::size_t start = std::min(text.find('&'), text.size());
-    out.append(text.substr(0, start));
-    text.remove_prefix(start);
-    if (text.empty()) break;
-    const std::string_view reference = ReferenceAt(text);
-    if (!reference.empty() && AppendReference(reference, utf8, out)) {
-      text.remove_prefix(reference.size() + 2);
-    } else {
-      out.push_back('&');
-      text.remove_prefix(1);
-    }
+void AppendXmlEscaped(std::string_view text, std::string& out) {
+  for (const char c : text) {
+    const std::string_view escape = EscapeOf(c);
+    escape.empty() ? out += c : out += escape;
   }
-  NoBreakSpacesToBlanks(out);
-  return out;
+}
+
+std::size_t AppendXmlText(std::string_view text, std::string& out) {
+  std::size_t repairs = 0;
+  for (std::size_t i = 0; i < text.size();) {
+    if (const std::size_t plain = PlainLength(text, i); plain > 0) {
+      out += text.substr(i, plain);
+      i += plain;
+      continue;
+    }
+    const std::string_view character = Utf8CharAt(text, i);
+    const std::uint32_t code_point = Utf8CodePoint(character);
+    if (code_point == kNoCodePoint) {
+      out += kReplacement;
+      ++repairs;
+      i += DamagedLength(text, i);
+      continue;
+    }
+    if (!IsXmlCharacter(code_point)) {
+      ++repairs;
+    } else if (const std::string_view escape = EscapeOf(character[0]); !escape.empty()) {
+      out += escape;
+    } else {
+      out += character;
+    }
+    i += character.size();
+  }
+  return repairs;
 }
 
 }  // namespace cantorel

@@ -611,10 +611,29 @@ class Utf8MarcRecordClass {
   bool SfdContainsVernacularData() const;
   bool VernacularDataPresent() const;
 
-  // --- XML text (see display/) -----------------------------------------------
+  // --- MARCXML (see display/) -------------------------------------------------
 
-  // Undoes the five XML escapes and the character references of HTML.
+  // Replaces the record by the first one in `marcxml` (MARC 21 XML schema,
+  // "marc:", "marcxml:" or nothing ahead of the names): a new record of the
+  // leader's type and level, with positions 17 to 19 as far as the format has
+  // them, control fields ahead of data fields.  Damaged text gives what could be
+  // read; without a leader the record is empty.
+  void XmlRecordIn(std::string_view marcxml);
+  // The record as a MARCXML collection of one, in UTF-8 whatever its character
+  // set, always well-formed (display/marcxml_writer.h); lines end in CR LF.
+  // Mode 0 is MARCXML.  No other mode has a form: the text is empty.
+  std::string XMLRecordOut(std::int16_t mode);
+
+  // "<" "&" ">" and the two quotation marks become the escapes of XML.
+  static std::string XmlConditionText(std::string_view text);
+  // Undoes the five XML escapes and the character references of HTML
+  // (display/xml_references.h); a no-break space becomes a blank.  The flag is
+  // not looked at.
   std::string XmlUnconditionText(std::string_view text, bool flag = true) const;
+  // "<element>content</name>"; the name is the first word of the element.
+  static std::string XmlTags(std::string_view element, std::string_view content);
+  // The text between double quotation marks.
+  static std::string AddQuotes(std::string_view text);
 
  private:
   struct OrderKey {

@@ -26,7 +26,10 @@ TEST(XmlUnconditionText, UndoesReferences) {
       // What is no reference stays.
       {"R&B; rock & roll; AT&T", "R&B; rock & roll; AT&T"},
       {"&EACUTE;&;&#;&#x;&#12a;&#-1;& amp;", "&EACUTE;&;&#;&#x;&#12a;&#-1;& amp;"},
-      {"&#31;&#0;&#xD800;&#x110000;&#99999999999;", "&#31;&#0;&#xD800;&#x110000;&#99999999999;"},
+      {"&#8;&#xFFFE;&#xD800;&#x110000;&#99999999999;",
+       "&#8;&#xFFFE;&#xD800;&#x110000;&#99999999999;"},
+      // What would build fields is dropped.
+      {"a&#31;&#0;b&#x1D;&#30;c&#28;", "abc&#28;"},
       {"&&amp;&", "&&&"},
       {"&amp", "&amp"},
   };
