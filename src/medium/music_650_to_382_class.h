@@ -213,12 +213,29 @@ class Music650To382Class {
   void Private_655_Initialize_ReportProblems(std::string_view /*list*/, std::int32_t /*row*/,
                                              std::string_view /*text*/, std::int32_t /*file*/) {}
 
-  // Dates (genre/places_and_dates.cpp): the current subfield is a $y.
+  // Dates of creation (genre/dates.cpp): the current subfield is a $y.
   void Private_655_AddDates(Utf8MarcRecordClass& record, std::string& new_lines);
-  // Places: a $z and the $z behind it, if any.
+
+  // Places (genre/places.cpp): a $z and the $z right behind it, or empty.  Adds the
+  // 370 of the place, or leaves a message.
+  //   spare  no effect
   void Private_655_AddPlace(Utf8MarcRecordClass& record, Utf8MarcRecordClass& scratch_record,
                             std::string_view first_z, std::string_view second_z,
                             std::string& new_lines, std::string& spare, bool& found);
+  // The authorized name that the two stand for, looked up once until Reset, and
+  // the file it is in: "naf", "lcsh", or "none" for part of a place that is in
+  // one.  Both are empty when it is not found.  Leaves a message either way.
+  void Private_655_ReconstructPlace(std::string_view first_z, std::string_view second_z,
+                                    std::string& name, std::string& source,
+                                    Utf8MarcRecordClass& scratch_record, bool& found);
+  // Whether `text` names part of a place, such as "Mekong River Delta"; `remainder`
+  // is then the place, otherwise empty.
+  void Private_655_TestRegionName(std::string_view text, std::string& remainder,
+                                  Utf8MarcRecordClass& scratch_record, bool& found);
+  // "Massachusetts" as "Mass."; a name that is not abbreviated comes back as it is.
+  std::string Private_655_AbbreviatePlaceName(std::string_view text,
+                                              Utf8MarcRecordClass& scratch_record);
+
   // Phrases of the current $v or $x (genre/audience.cpp); sets
   // `subdivision_consumed` of the state for one that was understood.
   void Private_655_TestSubdivisionPhrases(Utf8MarcRecordClass& record,

@@ -485,6 +485,24 @@ class Utf8MarcRecordClass {
                               std::string& miscellaneous, std::string& institution,
                               std::string& year);
 
+  // --- Places ----------------------------------------------------------------
+
+  // The usual abbreviation of a state, province or country: "Mass.".  A name that
+  // has none comes back as it is.
+  std::string AbbreviatePlaceName(std::string_view place) const;
+  // The name that an abbreviation stands for, with or without its blanks: "N.S.W."
+  // gives "New South Wales".  `qualifier` is the country of a state or province,
+  // otherwise empty.  Both are empty for an abbreviation that is not listed.
+  void ExpandPlaceAbbreviation(std::string_view abbreviation, std::string& name,
+                               std::string& qualifier) const;
+  // The place of a field text, or of a text without delimiters, as geographic
+  // subdivisions: "Boston (Mass.)" gives a $z "Massachusetts" and a $z "Boston".
+  // A place whose qualifier is not listed is one $z; a text whose qualifier is a
+  // kind of jurisdiction comes back as it is.
+  std::string IndirectSubdivisionForm(std::string_view text) const;
+  // Whether a qualifier in comparison form is a kind of jurisdiction ("DUCHY").
+  static bool IndirectSubdivisionFormIsJurisdiction(std::string_view word);
+
   // --- Standard numbers (see normalize/) -------------------------------------
 
   // The form by which the numbers of 010, 020, 022 and 035 are compared; the
