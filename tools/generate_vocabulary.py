@@ -17,13 +17,9 @@ What the sources leave open stops the run with a list of it.
 """
 
 import collections
-import csv
-import pathlib
 import sys
-import unicodedata
 
-CONFIG = pathlib.Path(__file__).resolve().parent.parent / "config"
-SOURCES = CONFIG / "sources"
+from config_sources import CONFIG, comparison_form, read_table
 
 HEAD = """\
 ; Medium of performance vocabulary.
@@ -43,42 +39,6 @@ RESERVED = {"BARITONE", "BARITONES"} | {
     for plural in ("", "S")
 }
 
-# The comparison forms of the characters that these tables hold, beside letters
-# and digits.
-KEPT = "#&+♭’"
-BLANKS = " !\"%(),-./:;?@_"
-DROPPED = "'[]ʹʺʻʼ"
-LETTERS = {"æ": "AE", "đ": "D", "ø": "O", "ł": "L", "œ": "OE", "ß": "SS", "Æ": "AE", "Ø": "O"}
-
-
-def decompose(text):
-    return unicodedata.normalize("NFD", text)
-
-
-def comparison_form(text):
-    out = []
-    for c in text:
-        if c.isascii() and c.isalnum():
-            out.append(c.upper())
-        elif c in LETTERS:
-            out.append(LETTERS[c])
-        elif c in KEPT:
-            out.append(c)
-        elif c in BLANKS:
-            out.append(" ")
-        elif c not in DROPPED and unicodedata.category(c) != "Mn":
-            sys.exit(f"no comparison form known for {c!r} (U+{ord(c):04X}) in {text!r}")
-    return " ".join("".join(out).split())
-
-
-def read_table(name):
-    lines = decompose((SOURCES / name).read_text(encoding="utf-8")).splitlines()
-    lines = [line for line in lines if line and not line.startswith("#")]
-    rows = list(csv.DictReader(lines, delimiter="\t", quoting=csv.QUOTE_NONE, strict=True))
-    for row in rows:
-        if None in row or None in row.values():
-            sys.exit(f"{name}: wrong number of columns: {list(row.values())}")
-    return rows
 
 
 def ensembles_of(terms, excluded):

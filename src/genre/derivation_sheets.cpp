@@ -56,6 +56,11 @@ std::string_view TakeUpTo(std::string_view mark, std::string_view& text) {
   return head;
 }
 
+// The first row may name the columns: in a way that makes no key of it.
+bool IsHeader(const WorkbookRow& row, LeftOut why) {
+  return row.number == 1 && (why == LeftOut::kNoKey || why == LeftOut::kNoSubdivision);
+}
+
 bool IsBlank(const WorkbookRow& row) {
   return std::all_of(row.cells.begin(), row.cells.end(),
                      [](const std::string& cell) { return CleanCellText(cell).empty(); });
@@ -103,6 +108,7 @@ WorkbookError DerivationSheets::ReadSheet(Workbook& workbook, std::size_t sheet,
   plain_keys_.clear();
   std::int32_t last_row = 0;  // of those with a key
   const auto leave_out = [&](const WorkbookRow& row, LeftOut why) {
+    if (IsHeader(row, why)) return;
     build_.left_out.push_back({form.sheet, row.number, why});
   };
   return workbook.ReadSheet(sheet, [&](const WorkbookRow& row) {

@@ -13,7 +13,9 @@
 //   List 10  LanguagesByName   A: name of a language              B: codes
 //   List 12  List12            A: heading                         B: field 382
 //
-// A cell holds fields one behind the other: "$aCanons$2lcgft$aFugues$2lcgft".
+// A cell holds fields one behind the other: "$aCanons$2lcgft$aFugues$2lcgft".  The
+// first row may hold names of the columns, as long as it makes no key: with an
+// empty key cell, or none of "$v" and "$x" in it where the key has two parts.
 
 #ifndef CANTOREL_GENRE_DERIVATION_TABLE_BUILD_H_
 #define CANTOREL_GENRE_DERIVATION_TABLE_BUILD_H_

@@ -95,6 +95,23 @@ TEST(DerivationTableBuild, SheetsEndBehindBlankRows) {
                           "above"));
 }
 
+// Names of columns in a row without a key are nothing to look at, elsewhere they are.
+TEST(DerivationTableBuild, TheFirstRowMayNameTheColumns) {
+  struct Case {
+    std::string sheet;
+    std::vector<std::string> header;
+    std::string described;
+  };
+  const Case cases[] = {
+      {"List 2", {"Heading", "Pair", "655"}, "List 2, row 2 has no subdivision in its key"},
+      {"List 3", {"", "655", "385"}, "List 3, row 2 has no key"},
+      {"List 6", {"Context", "", "655"}, "List 6, row 2 has no key"},
+  };
+  for (const Case& c : cases) {
+    EXPECT_THAT(Make(c.sheet, {c.header, c.header}).left_out, ElementsAre(c.described));
+  }
+}
+
 // One long cell that every row refers to would fill the memory.
 TEST(DerivationTableBuild, EndsWhenATableIsTooLarge) {
   const std::string cell = "$a" + std::string(100'000, 'x');
