@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/common_options.h"
+#include "cli/config_init.h"
 #include "cli/configuration.h"
 #include "cli/output.h"
 #include "genre/configuration_check.h"
@@ -78,12 +79,28 @@ void AddFolderCommand(CLI::App& config, const std::string& name, const std::stri
   command->callback([&action, run, folder] { action = [run, folder] { return run(*folder); }; });
 }
 
+void AddInitCommand(CLI::App& config, Action& action) {
+  CLI::App* const command = config.add_subcommand(
+      "init", "Copy the configuration folder that comes with the program to one of your own");
+  struct Call {
+    std::string folder;
+    bool replace = false;
+  };
+  const auto call = std::make_shared<Call>();
+  command->add_option("DIR", call->folder, "Folder to make, or an empty one")->required();
+  command->add_flag("--force", call->replace,
+                    "Also when DIR is not empty: replace the files that the program brings");
+  command->callback(
+      [&action, call] { action = [call] { return RunConfigInit(call->folder, call->replace); }; });
+}
+
 }  // namespace
 
 void AddConfigCommand(CLI::App& app, Action& action) {
   CLI::App* const config =
-      app.add_subcommand("config", "Build and check the files of the configuration folder");
+      app.add_subcommand("config", "Make, build and check a configuration folder");
   config->require_subcommand(1);
+  AddInitCommand(*config, action);
   AddFolderCommand(*config, "build",
                    "Make the derivation table from its workbook, and say what each sheet gave",
                    RunConfigBuild, action);

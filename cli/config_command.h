@@ -1,4 +1,4 @@
-// cantorel config: builds and checks the files of the configuration folder.
+// cantorel config: makes a configuration folder, builds and checks its files.
 
 #ifndef CANTOREL_CLI_CONFIG_COMMAND_H_
 #define CANTOREL_CLI_CONFIG_COMMAND_H_

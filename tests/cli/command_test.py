@@ -333,6 +333,24 @@ class CommandTest(unittest.TestCase):
         self.assertIn(b"Music6xxTo655.txt:5: jazz repeats a key", done.stdout)
         self.assertNotIn(b"gives another table", done.stdout)
 
+    def test_a_configuration_folder_of_ones_own(self):
+        own = self.folder / "new" / "folder"
+        self.check(run("config", "init", own), 0)
+        files = sorted(file for file in CONFIG.iterdir() if file.is_file())
+        self.assertEqual([(f.name, f.read_bytes()) for f in files],
+                         [(f.name, f.read_bytes()) for f in sorted(own.iterdir())])
+        self.check(run("config", "check", "--config", own), 0)
+        (own / "bibsup.cfg").write_text("changed")
+        (own / "mine").write_text("mine")
+        self.check(run("config", "init", own), 2, str(own), "is not empty", "--force")
+        self.assertEqual((own / "bibsup.cfg").read_text(), "changed")
+        self.check(run("config", "init", "--force", own), 0)
+        self.assertEqual((own / "bibsup.cfg").read_bytes(), (CONFIG / "bibsup.cfg").read_bytes())
+        self.assertEqual((own / "mine").read_text(), "mine")
+        self.check(run("config", "init", own / "mine"), 2, "is no folder")
+        self.check(run("config", "init", own / "mine" / "below"), 3, "cannot be made")
+        self.check(run("config", "init", "--force", CONFIG), 2, "comes with the program")
+
     def test_configuration_folder_may_have_any_name(self):
         shutil.copytree(CONFIG, self.folder / "me")
         done = run("heading", "--config", "me", "Flute music", cwd=self.folder)
