@@ -17,6 +17,7 @@ void AddFields(benchmark::State& state) {
   const auto mode = static_cast<std::int32_t>(state.range(0));
   CantorelClass cantorel;
   cantorel.ConfigurationPath(ConfigurationFolder());
+  cantorel.LookUpWith(nullptr);
   std::size_t position = 0;
   std::int64_t octets = 0;
   for (auto _ : state) {

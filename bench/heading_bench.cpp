@@ -16,6 +16,7 @@ namespace {
 void Convert650To382Text(benchmark::State& state) {
   CantorelClass cantorel;
   cantorel.ConfigurationPath(ConfigurationFolder());
+  cantorel.LookUpWith(nullptr);
   cantorel.AddFields({}, 1);  // prepares what a first call prepares
   Utf8MarcRecordClass record;
   std::string trailing;

@@ -18,6 +18,8 @@ namespace cantorel {
 struct HttpAnswer {
   int status = 0;    // of the last answer, redirections followed: 200, 404, ...
   std::string body;  // octets as they came
+  // After a failure: why, in words; empty otherwise.
+  std::string fault;
 };
 
 class HttpGet {
@@ -27,7 +29,7 @@ class HttpGet {
   // Asks for `url` and waits for the whole answer.  Octets that a URL cannot
   // hold, such as blanks, are sent percent-encoded.
   //   user_agent  value of the header of that name
-  //   answer      overwritten; what it holds after a failure means nothing
+  //   answer      overwritten; after a failure only its `fault` means something
   // True when the service answered, with whatever status: 404 and 500 are answers
   // too.  False when no whole answer came: bad address, no connection, time-out,
   // an answer cut short or too long.

@@ -1,5 +1,6 @@
 #include "service/cantorel_class.h"
 
+#include "genre/linked_data.h"
 #include "service/answer.h"
 #include "service/configuration_folder.h"
 #include "service/service_objects.h"
@@ -52,6 +53,26 @@ void CantorelClass::MusicClassOperatingMode(std::int32_t mode) noexcept {
 
 void CantorelClass::SelectFieldsWith(FieldSelector* selector) noexcept {
   Answer([selector] { TheMusicSession().field_selector = selector; });
+}
+
+void CantorelClass::LookUpWith(HttpGet* client) noexcept {
+  Answer([client] { TheMusicSession().http_get = client; });
+}
+
+std::string CantorelClass::LinkedDataUrl() const noexcept {
+  return Answer([] { return std::string(cantorel::LinkedDataUrl(TheMusicSession())); });
+}
+
+void CantorelClass::LinkedDataUrl(std::string_view url) noexcept {
+  Answer([url] { TheMusicSession().linked_data_url = url; });
+}
+
+std::string CantorelClass::PermalinkUrl() const noexcept {
+  return Answer([] { return std::string(cantorel::PermalinkUrl(TheMusicSession())); });
+}
+
+void CantorelClass::PermalinkUrl(std::string_view url) noexcept {
+  Answer([url] { TheMusicSession().permalink_url = url; });
 }
 
 std::string CantorelClass::MusicClassDateTimeStamp() const noexcept {

@@ -25,6 +25,7 @@
 #include <string_view>
 
 #include "platform/field_selection.h"
+#include "platform/http_get.h"
 
 namespace cantorel {
 
@@ -87,6 +88,19 @@ class CantorelClass {
   // Mode 2 asks the selector, which must stay until it is taken away; null, as at
   // first, counts as a cancelled choice.
   void SelectFieldsWith(FieldSelector* selector) noexcept;
+  // How places and nationalities are looked up at the linked-data service of the
+  // national library.  At first a thread has a client of its own
+  // (platform/http_get.h), which asks over the network; null asks nothing.  A
+  // client that is handed in must stay until it is taken away.  When a request
+  // for a place has failed, no place is asked for any more, whichever client
+  // there is, until ReleaseServiceObjects.
+  void LookUpWith(HttpGet* client) noexcept;
+  // Addresses of the two services, http or https, without a slash at the end; an
+  // empty one stands for that which the library was built with.
+  std::string LinkedDataUrl() const noexcept;
+  void LinkedDataUrl(std::string_view url) noexcept;
+  std::string PermalinkUrl() const noexcept;
+  void PermalinkUrl(std::string_view url) noexcept;
   // "yyyymmdd.hhnnss".  Eight characters get ".000000"; fifteen are ignored,
   // which is deliberate; anything else stores the present moment.
   std::string MusicClassDateTimeStamp() const noexcept;

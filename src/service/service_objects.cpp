@@ -1,5 +1,9 @@
 #include "service/service_objects.h"
 
+#include <memory>
+
+#include "platform/http_get.h"
+
 namespace cantorel {
 namespace {
 
@@ -10,13 +14,15 @@ struct ServiceObjects {
   Utf8MarcRecordClass second_record;
   Utf8MarcRecordClass options_record;
   Utf8CharClass char_class;
-  MusicSession session = SessionWith(second_record);
+  std::unique_ptr<HttpGet> http_get = MakeHttpGet({});
+  MusicSession session = SessionWith(second_record, http_get.get());
   Music650To382Class music_class{session};
   OptionsForm options_form;
 
-  static MusicSession SessionWith(Utf8MarcRecordClass& second_record) {
+  static MusicSession SessionWith(Utf8MarcRecordClass& second_record, HttpGet* http_get) {
     MusicSession session;
     session.second_record = &second_record;
+    session.http_get = http_get;
     return session;
   }
 };

@@ -95,6 +95,7 @@ ServiceTest::ServiceTest() : folder_(NewFolder()) {
   WriteFile(folder_ + "MusicMedium.Lcmpt.txt", kVocabulary);
   WriteFile(folder_ + "Music6xxTo655.txt", "[FileSignature]\nFilePresent=True\n");
   cantorel_.ConfigurationPath(folder_);
+  cantorel_.LookUpWith(nullptr);  // no test asks the network
 }
 
 ServiceTest::~ServiceTest() {
