@@ -26,9 +26,10 @@ void AddConversionOptions(CLI::App& command, ConversionOptions& options) {
   AddChoice(command, "--canons", options.canons, kCanons,
             "When 'Canons, fugues, etc.' may mean either: leave a message, assign both, or ask "
             "in the terminal");
+  AddLookupOptions(command, options.lookups);
 }
 
-bool Converter::Prepare(const ConversionOptions& options) {
+bool Converter::Prepare(const ConversionOptions& options, Lookups& lookups) {
   if (!Configure(component_, options.configuration_folder)) return false;
   if (options.canons == kAsk && !selector_.HasTerminal()) {
     std::fprintf(stderr, "cantorel: --canons ask needs a terminal to ask in, and there is none\n");
@@ -36,6 +37,10 @@ bool Converter::Prepare(const ConversionOptions& options) {
   }
   component_.MusicClassOperatingMode(options.canons);
   component_.SelectFieldsWith(&selector_);
+  http_get_ = lookups.Client();
+  component_.LookUpWith(http_get_.get());
+  component_.LinkedDataUrl(options.lookups.linked_data_url);
+  component_.PermalinkUrl(options.lookups.permalink_url);
   return true;
 }
 

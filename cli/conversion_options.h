@@ -5,8 +5,10 @@
 #define CANTOREL_CLI_CONVERSION_OPTIONS_H_
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
+#include "cli/lookups.h"
 #include "cli/terminal_selector.h"
 #include "service/cantorel_class.h"
 
@@ -20,6 +22,7 @@ struct ConversionOptions {
   std::string configuration_folder;  // empty: the one that comes with the program
   std::int32_t mode = 3;             // as AddFields takes it: 1 382, 2 655, 3 both
   std::int32_t canons = 0;           // MusicClassOperatingMode: 0 message, 1 assign, 2 ask
+  LookupOptions lookups;
 };
 
 // `options` must live until the line is parsed.
@@ -29,14 +32,15 @@ void AddConversionOptions(CLI::App& command, ConversionOptions& options);
 class Converter {
  public:
   // False, with a line on standard error, when there is no folder to work with
-  // or nobody to ask.
-  bool Prepare(const ConversionOptions& options);
+  // or nobody to ask.  `lookups` must outlive the object.
+  bool Prepare(const ConversionOptions& options, Lookups& lookups);
 
   CantorelClass& Component() { return component_; }
 
  private:
   CantorelClass component_;
   TerminalSelector selector_;
+  std::unique_ptr<HttpGet> http_get_;
 };
 
 }  // namespace cantorel::cli

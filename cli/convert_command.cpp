@@ -18,8 +18,9 @@ namespace {
 const std::map<std::string, Format> kFormats = {{"text", Format::kText}, {"json", Format::kJson}};
 
 ExitStatus RunConvert(const ConvertOptions& options) {
+  Lookups lookups(options.conversion.lookups);
   Converter component;
-  if (!component.Prepare(options.conversion)) return kWrongCall;
+  if (!lookups.Prepare() || !component.Prepare(options.conversion, lookups)) return kWrongCall;
   ItemReader reader(options.files, options.lines);
   ItemConverter converter(component.Component(), options);
   ResultWriter writer;

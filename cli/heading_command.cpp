@@ -46,8 +46,9 @@ std::string Joined(const std::vector<std::string>& words) {
 }
 
 ExitStatus RunHeading(const HeadingOptions& options) {
+  Lookups lookups(options.conversion.lookups);
   Converter converter;
-  if (!converter.Prepare(options.conversion)) return kWrongCall;
+  if (!lookups.Prepare() || !converter.Prepare(options.conversion, lookups)) return kWrongCall;
   const std::string heading = Joined(options.words);
   RecordAnswer answer;
   AskAboutRecord(converter.Component(), std::string(kRecordLines) + HeadingFieldText(heading),

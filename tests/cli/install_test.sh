@@ -33,4 +33,4 @@ flags=$(sed -n 's/^CANTOREL_SANITIZE:BOOL=ON$/-fsanitize=address,undefined/p' "$
 "$cmake" --build "$scratch/project/build" >"$scratch/log" || { cat "$scratch/log"; exit 1; }
 "$scratch/project/build/guest"
 
-"$scratch/prefix/bin/cantorel" heading 'Flute music' | grep -q 'a flute'
+"$scratch/prefix/bin/cantorel" heading --offline 'Flute music' | grep -q 'a flute'
