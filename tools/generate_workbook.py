@@ -35,6 +35,10 @@ WORKBOOK = CONFIG / "Deriving bibliographic 655 etc.xlsx"
 # for tag, source and tabs.
 LONGEST_VALUE = 200
 
+# What headings leave out behind the name of a language or of a group of them:
+# "English, Old (ca. 450-1100)", "Celtic (Other)", "Iroquoian (Other)", "Mayan languages".
+BESIDE_LANGUAGE_NAME = re.compile(r" (\([^()]*\d[^()]*\)|\(Other\)|languages)$")
+
 SOURCE_OF = {"655": "lcgft", "385": "lcdgt", "386": "lcdgt"}
 
 ABOUT = (
@@ -184,8 +188,7 @@ class Lists:
                 add_language(found, name, row["code"])
         for row in listed:
             add_language(found, row["name"], row["code"])
-            # "English, Old (ca. 450-1100)"
-            add_language(found, re.sub(r" \([^()]*\d[^()]*\)$", "", row["name"]), row["code"])
+            add_language(found, BESIDE_LANGUAGE_NAME.sub("", row["name"]), row["code"])
         codes = {row["code"] for row in listed}
         for key, value in settled.items():
             for code in value.split():
