@@ -64,8 +64,10 @@ ExitStatus RunConfigInit(const std::string& target, bool replace) {
   const fs::path folder = target;
   const ExitStatus prepared = PrepareFolder(folder, source, replace);
   if (prepared != kAllWell) return prepared;
+  const std::vector<fs::path> files = FilesOf(source);
+  if (files.empty()) return Refuse(source, "cannot be read", kInputOutputFailed);
   std::string text;
-  for (const fs::path& file : FilesOf(source)) {
+  for (const fs::path& file : files) {
     const fs::path copy = folder / file.filename();
     if (!Copy(file, copy)) return Refuse(copy, "could not be written", kInputOutputFailed);
     text += copy.string() + "\n";

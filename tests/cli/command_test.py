@@ -319,8 +319,13 @@ class CommandTest(unittest.TestCase):
                             (half, "has no usable Music6xxTo655.txt")):
             self.check(run("convert", "--config", folder, SAMPLE), 2, str(folder), why)
 
+    def check_is_clean(self, *options):
+        done = run("config", "check", *options)
+        if b"without libzip" in done.stdout:
+            self.skipTest("no reader of workbooks")
+        self.assertEqual((done.returncode, done.stdout), (0, b""))
+
     def test_configuration_is_built_and_checked(self):
-        self.check(run("config", "check"), 0)
         shutil.copy(CONFIG / "MusicMedium.Lcmpt.txt", self.folder)
         workbook = self.folder / "Deriving bibliographic 655 etc.xlsx"
         build = ("config", "build", "--config", self.folder)
@@ -347,7 +352,6 @@ class CommandTest(unittest.TestCase):
         files = sorted(file for file in CONFIG.iterdir() if file.is_file())
         self.assertEqual([(f.name, f.read_bytes()) for f in files],
                          [(f.name, f.read_bytes()) for f in sorted(own.iterdir())])
-        self.check(run("config", "check", "--config", own), 0)
         (own / "bibsup.cfg").write_text("changed")
         (own / "mine").write_text("mine")
         self.check(run("config", "init", own), 2, str(own), "is not empty", "--force")
@@ -358,6 +362,7 @@ class CommandTest(unittest.TestCase):
         self.check(run("config", "init", own / "mine"), 2, "is no folder")
         self.check(run("config", "init", own / "mine" / "below"), 3, "cannot be made")
         self.check(run("config", "init", "--force", CONFIG), 2, "comes with the program")
+        self.check_is_clean("--config", own)
 
     def test_configuration_folder_may_have_any_name(self):
         shutil.copytree(CONFIG, self.folder / "me")
