@@ -18,6 +18,8 @@ XML = '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>\n'
 # ZIP knows no earlier time.
 NO_TIME = (1980, 1, 1, 0, 0, 0)
 
+LINE_HEIGHT = 14  # points
+
 # Places in cellXfs below.
 TEXT, HEADER = 0, 1
 STYLES = f"""{XML}<styleSheet xmlns="{MAIN}">
@@ -59,9 +61,11 @@ def cell(column, row, text, style):
     return f'<c r="{place}" s="{style}" t="inlineStr"><is><t xml:space="preserve">{text}</t></is></c>'
 
 
-def row_xml(number, cells, style):
+def row_xml(number, cells, style, widths):
+    # Room for every line: a spreadsheet does not find the height out by itself.
+    lines = max(-(-len(text) // (width - 2)) for text, width in zip(cells, widths))
     cells = "".join(cell(column, number, text, style) for column, text in enumerate(cells))
-    return f'<row r="{number}">{cells}</row>\n'
+    return f'<row r="{number}" ht="{LINE_HEIGHT * max(lines, 1)}">{cells}</row>\n'
 
 
 def sheet_xml(sheet):
@@ -69,14 +73,14 @@ def sheet_xml(sheet):
         f'<col min="{n}" max="{n}" width="{width}" style="{TEXT}" customWidth="1"/>'
         for n, width in enumerate(sheet.widths, 1)
     )
-    rows = "".join(row_xml(n, cells, TEXT) for n, cells in enumerate(sheet.rows, 2))
+    rows = "".join(row_xml(n, cells, TEXT, sheet.widths) for n, cells in enumerate(sheet.rows, 2))
     return (
         f'{XML}<worksheet xmlns="{MAIN}"><sheetPr><pageSetUpPr fitToPage="1"/></sheetPr>'
         '<sheetViews><sheetView workbookViewId="0">'
         '<pane ySplit="1" topLeftCell="A2" activePane="bottomLeft" state="frozen"/>'
         '<selection pane="bottomLeft" activeCell="A2" sqref="A2"/></sheetView></sheetViews>'
-        f'<sheetFormatPr defaultRowHeight="13"/><cols>{columns}</cols>\n'
-        f"<sheetData>\n{row_xml(1, sheet.header, HEADER)}{rows}</sheetData>\n"
+        f'<sheetFormatPr defaultRowHeight="{LINE_HEIGHT}"/><cols>{columns}</cols>\n'
+        f"<sheetData>\n{row_xml(1, sheet.header, HEADER, sheet.widths)}{rows}</sheetData>\n"
         '<pageSetup orientation="landscape" fitToWidth="1" fitToHeight="0"/></worksheet>\n'
     )
 
