@@ -58,6 +58,12 @@ class Utf8CharClass {
   std::int64_t Utf8CharAsc() const { return octet_value_; }
   void Utf8CharAsc(std::int64_t value);
 
+  // Makes a MARC-8 character the current one: one octet of the Latin set, or the
+  // letter of a set ("M", "O", "V"), a code such as "(N" (see below) and the
+  // octets.  Nothing happens for octets that are no character.  Only the UTF-8
+  // side is written, deliberately: UcsChar and UcsHex stay as they were.
+  void Marc8Char(std::string_view marc8);
+
   // The length, 1 to 4, that the first octet of `text` announces; a continuation
   // octet announces 1.  For an empty text, the length of the current character.
   std::int16_t Utf8CharOctets(std::string_view text) const;
@@ -128,6 +134,41 @@ class Utf8CharClass {
   // The octet of the last two digits, or of one; empty for none.  Lower-case
   // letters are no digits here: they count 15 as any other character.
   static std::string Hex2Char(std::string_view digits);
+
+  // --- MARC-8 and substitutes ------------------------------------------------
+
+  // One MARC-8 character to UTF-8.  `set_in` is "M", "O" or "V"; `code` says
+  // which set the octets are of: its short code ("1" to ";"), or what an escape
+  // designates it with ("s", "g", "b", "p", "(N", ")N", "$1", ")!E", ...).
+  // `changed`: the translation differs from the octets.  `error`, with `utf8`
+  // empty: unknown code, or octets that are not one character of the set.
+  // (charset/marc8_character.h)
+  static void TranslateMarc2Utf8OneCharacter(std::string_view set_in, std::string_view code,
+                                             std::string_view octets, std::string& utf8,
+                                             bool& changed, bool& error);
+
+  // The MARC-8 octets of one UTF-8 character, and the short code of the first set
+  // that has it.  `set_out` is "M", "O" or "V".  `error`, with empty answers:
+  // there is none.
+  static std::string TranslateUtf82MarcOneCharacter(std::string_view set_out,
+                                                    std::string_view octets, std::string& code,
+                                                    bool& error);
+
+  // What stands behind the escape for a short code: "6" gives "(N".  Any other
+  // value comes back.
+  static std::string TranslateUtf82MarcShortCodeToLong(std::string_view short_code);
+
+  // MARC-8 text without fields to UTF-8: marks (224 to 251, 254) go behind their
+  // letters, the runs behind an escape and "p", "b" or "g" become superscripts,
+  // subscripts and Greek letters.  Octets and escapes that are none of these
+  // stay.  `set_in` as above.
+  static std::string Marc82Utf8(std::string_view text, std::string_view set_in);
+
+  // What stands for a character that records do not hold as it is: a letter and
+  // its marks for a precomposed letter, "-" for a dash, an ideograph for a
+  // private-use character (charset/substitutes.h).  False, with the text itself,
+  // if nothing does.
+  static bool SubstituteUtf8Char(std::string_view text, std::string& replacement);
 
   // --- Fixed characters ------------------------------------------------------
 

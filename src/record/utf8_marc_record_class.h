@@ -612,7 +612,12 @@ class Utf8MarcRecordClass {
   bool DisableUtf8Decomposition() const { return disable_utf8_decomposition_; }
   void DisableUtf8Decomposition(bool value) { disable_utf8_decomposition_ = value; }
   bool CharactersDecomposed() const { return characters_decomposed_; }
+  // UTF-8 text with its precomposed letters taken apart and its punctuation made
+  // plain (charset/decomposition.h); runs of blanks become one if `changed`.
   std::string DecomposeUnicodeCharactersInString(std::string_view text, bool& changed) const;
+  // `pair` "L2M": Windows text as MARC-8.  Any other: one UTF-8 character as its
+  // plain form in UTF-8, or itself (charset/windows_text.h).
+  static std::string MsoftAscii2Marc(std::string_view text, std::string_view pair);
   // The record's character object, for questions about one character.
   Utf8CharClass& CharClass() { return char_class_; }
 
