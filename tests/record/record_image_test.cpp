@@ -247,7 +247,7 @@ TEST(MarcRecordOut, GivesWellFormedRecordsBackOctetForOctet) {
       {"24510$aSonata$bfor flute", "650 0$aSonatas (Flute)$vScores."},
       {"010  $a   85012345 ", "1001 $6880-01$aDvo\u030Cr\u0301k, A.$d1841-1904",
        "24513$6880-02$aAn die Freude", "8801 $6100-01/(N$a\u0414\u0432\u043E"},
-      {"500  $a" + std::string(9994, 'x'), "500  $a|\\^~{}<>&\"'\x7F\u00A0\U00010000"},
+      {"500  $a" + std::string(9994, 'x'), "500  $a|\\^~{}<>&\"'\x7F\u00B6\U00010000"},
       {"500  $a", "5000 $3part$ax", "50019$5DLC"}};
   records.push_back(std::vector<std::string>(400, "650 0$aFlute music"));
   Utf8MarcRecordClass record;
