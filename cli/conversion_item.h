@@ -20,7 +20,8 @@ struct ConversionItem {
   std::string_view source;   // name of the input, "-" for standard input
   std::uint64_t number = 0;  // of the record in its input, from 1
   std::uint64_t offset = 0;  // of its first octet, from 0
-  std::string octets;        // the record as it came
+  std::string octets;        // the record as it came; of MARCXML its ISO 2709 image
+  std::string fault;         // why it is no record, where reading showed it; else empty
   std::string read_error;    // why the input could not be read on; else empty
 };
 

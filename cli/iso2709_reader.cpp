@@ -55,7 +55,7 @@ bool Iso2709Reader::Next(Piece& piece) {
   SkipFiller();
   piece_length_ = MeasurePiece();
   if (piece_length_ == 0) return false;
-  piece = {input_.Peek(piece_length_).substr(0, piece_length_), ++count_, input_.Offset()};
+  piece = {input_.Peek(piece_length_).substr(0, piece_length_), ++count_, input_.Offset(), {}};
   return true;
 }
 

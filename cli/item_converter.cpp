@@ -9,6 +9,8 @@ void ItemConverter::Convert(const ConversionItem& item, ConversionResult& result
   result.Clear();
   result.answer.source = item.source;
   result.answer.record = item.number;
+  result.fault = item.fault;
+  if (!result.fault.empty()) return;
   const std::string_view record = Readable(item.octets, result.fault);
   if (!result.fault.empty()) return;
   AskAboutRecord(cantorel_, record, options_.conversion.mode, result.answer);

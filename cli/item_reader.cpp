@@ -14,6 +14,7 @@ bool ItemReader::Next(ConversionItem& item) {
       item.number = piece.number;
       item.offset = piece.offset;
       item.octets = piece.octets;
+      item.fault = piece.fault;
       return true;
     }
     reader_.reset();
@@ -28,7 +29,7 @@ void ItemReader::Open(const std::string& file) {
   if (lines_) {
     reader_ = std::make_unique<LineReader>(*source_);
   } else {
-    reader_ = std::make_unique<Iso2709Reader>(*source_);
+    reader_ = OpenRecordReader(*source_);
   }
 }
 

@@ -9,8 +9,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "cli/input_buffer.h"
 
@@ -21,6 +23,7 @@ struct Piece {
   std::string_view octets;   // good until the next one is asked for
   std::uint64_t number = 0;  // of the piece in its input, from 1
   std::uint64_t offset = 0;  // of its first octet, from 0
+  std::string_view fault;    // why it cannot be a record, where the reader knows; good as long
 };
 
 // A record of more octets than this is cut there and the rest passed over, so
@@ -41,6 +44,7 @@ class RecordReader {
 class Iso2709Reader : public RecordReader {
  public:
   explicit Iso2709Reader(OctetSource& source) : input_(source) {}
+  explicit Iso2709Reader(InputBuffer&& input) : input_(std::move(input)) {}
   bool Next(Piece& piece) override;
 
  private:
@@ -72,6 +76,10 @@ class LineReader : public RecordReader {
   std::string record_;
   std::string line_;
 };
+
+// The reader for what an input holds: MARCXML when its first octet other than
+// blanks is "<", otherwise ISO 2709.
+std::unique_ptr<RecordReader> OpenRecordReader(OctetSource& source);
 
 }  // namespace cantorel::cli
 

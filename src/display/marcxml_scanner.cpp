@@ -19,19 +19,30 @@ constexpr bool IsBlank(char c) {
   return kBlanks.find(c) != std::string_view::npos;
 }
 
-// The position of the ">" that ends the tag whose name ends at `position`; one
-// inside quotation marks counts only when they are not closed.
+// The position of the ">" that ends the tag whose name ends at `position`, or of
+// a "<" that shows that it is none; the length of the text when neither comes.
+// A ">" inside quotation marks counts only when they are not closed.
 std::size_t FindTagEnd(std::string_view xml, std::size_t position) {
-  const std::size_t first = xml.find_first_of("<>", position);
-  std::size_t end = position;
-  while ((end = xml.find_first_of("\"'<>", end)) != xml.npos) {
-    if (xml[end] == '>') return end;
-    if (xml[end] == '<') break;
-    end = xml.find_first_of(xml[end] == '"' ? "\"<" : "'<", end + 1);
-    if (end == xml.npos || xml[end] == '<') break;
-    ++end;
+  std::size_t first = xml.size();  // ">" inside the marks
+  char mark = '\0';
+  for (std::size_t i = position; i < xml.size(); ++i) {
+    const char c = xml[i];
+    if (c == '<') return first < i ? first : i;
+    if (c == '>') {
+      if (mark == '\0') return i;
+      first = std::min(first, i);
+    } else if (c == mark) {
+      mark = '\0';
+      first = xml.size();
+    } else if (mark == '\0' && (c == '"' || c == '\'')) {
+      mark = c;
+    }
   }
-  return first != xml.npos && xml[first] == '>' ? first : xml.npos;
+  return xml.size();
+}
+
+constexpr bool EndsName(char c) {
+  return IsBlank(c) || c == '/' || c == '<' || c == '>';
 }
 
 void SkipBlanks(std::string_view& text) {
@@ -61,10 +72,12 @@ XmlTag XmlTagAt(std::string_view xml, std::size_t position) {
     tag.is_end = true;
     ++name;
   }
-  const std::size_t name_end = xml.find_first_of(" \t\r\n/<>", name);
-  if (name_end == name || name_end == xml.npos) return tag;
+  std::size_t name_end = name;
+  while (name_end < xml.size() && !EndsName(xml[name_end])) ++name_end;
+  if (name_end == name && name < xml.size()) return tag;
   const std::size_t end = FindTagEnd(xml, name_end);
-  if (end == xml.npos) return tag;
+  tag.is_cut = end == xml.size();
+  if (tag.is_cut || xml[end] != '>') return tag;
   tag.is_empty = end > name_end && xml[end - 1] == '/';
   tag.name = xml.substr(name, name_end - name);
   tag.attributes = xml.substr(name_end, end - name_end - (tag.is_empty ? 1 : 0));

@@ -21,10 +21,11 @@ struct XmlTag {
   std::size_t length = 0;       // of all of it, brackets included
   bool is_end = false;          // "</name>"
   bool is_empty = false;        // "<name/>"
+  bool is_cut = false;          // the text ends ahead of the ">"
 };
 
-// Reads the tag that begins at `position`, where a "<" stands.  A tag that is
-// not closed has the length 0.
+// Reads the tag that begins at `position`, where a "<" stands.  What is no tag,
+// or is cut, has the length 0.
 XmlTag XmlTagAt(std::string_view xml, std::size_t position);
 
 // The length of the comment, CDATA section, processing instruction or
