@@ -11,6 +11,12 @@
 
 namespace cantorel {
 
+// The name of a place in an authority file.
+struct AuthorizedPlace {
+  std::string name;
+  std::string source;  // "naf", "lcsh" or "none"
+};
+
 struct GenreState {
   // Style words as headings carry them, in parentheses: "(jazz)".
   std::vector<std::string> style_qualifiers;
@@ -27,6 +33,9 @@ struct GenreState {
   // Names of nationalities, in lower case, to their authorized form, or to
   // kNoNationality (genre/linked_data.h).
   StringMap<std::string> nationalities;
+  // Places found, by the comparison forms of the two subdivisions that told them,
+  // each behind a "z".
+  StringMap<AuthorizedPlace> places;
 
   // --- Of the record under work ------------------------------------------------
 
@@ -88,6 +97,7 @@ struct GenreState {
     style_qualifiers.clear();
     style_terms.RemoveAll();
     nationalities.RemoveAll();
+    places.RemoveAll();
   }
 };
 

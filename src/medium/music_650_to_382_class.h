@@ -241,8 +241,8 @@ class Music650To382Class {
   void Private_655_TestSubdivisionPhrases(Utf8MarcRecordClass& record,
                                           Utf8MarcRecordClass& scratch_record,
                                           std::string& new_lines, std::string& spare);
-  // Languages: leaves a message when none of `codes`, three
-  // letters each with blanks between, stands in the record.
+  // Languages (genre/language_codes.cpp): leaves a message when none of `codes`,
+  // three letters each with blanks between, stands in the record.
   void Private_655_TestLanguageCode(std::string_view codes, std::string_view language_name,
                                     Utf8MarcRecordClass& record);
 
