@@ -76,7 +76,10 @@ class VocabularyDataTest : public testing::Test {
 TEST_F(VocabularyDataTest, KeysAndTermsAreInTheFormThatIsLookedUp) {
   ASSERT_GT(instruments_.size(), 2500u);
   ASSERT_GT(ensembles_.size(), 150u);
+  std::set<std::string> authorised;
+  for (const auto& [term, id] : Source("lcmpt.tsv", 1, 0)) authorised.insert(term);
   for (const auto& [key, term] : instruments_) {
+    EXPECT_TRUE(authorised.contains(term)) << term;
     std::string name = key;
     std::replace(name.begin(), name.end(), '_', ' ');
     EXPECT_EQ(Key(name), key);
@@ -146,6 +149,12 @@ TEST_F(VocabularyDataTest, FindsWhatSubjectHeadingsWrite) {
       {"JAZZ ENSEMBLE", "instrumental ensemble"},
       {"DANCE ORCHESTRA", "big band"},
       {"UD", "oud"},
+      {"HURDY GURDIES", "hurdy-gurdy"},
+      {"VIOLIN ELECTRIC", "electric violin"},
+      {"RECORDED ACCOMPANIMENT", "pre-recorded audio"},
+      // The voice of one; the plural is a chorus.
+      {"GIRLS VOICE", "child's voice"},
+      {"GIRLS VOICES", "girls' chorus"},
       // The grammar tells what these are, from the rest of the heading.
       {"BARITONE", ""},
       {"PIANO TRIO", ""},
