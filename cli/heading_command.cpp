@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "charset/decomposition.h"
 #include "cli/answer.h"
 #include "cli/answer_writers.h"
 #include "cli/ask.h"
@@ -65,7 +66,9 @@ ExitStatus RunHeading(const HeadingOptions& options) {
 }  // namespace
 
 std::string HeadingFieldText(std::string_view heading) {
-  std::string line(Trimmed(heading));
+  std::string line;
+  // A keyboard writes precomposed letters, records hold them apart.
+  if (!DecomposeText(Trimmed(heading), line)) line = Trimmed(heading);
   // The component reads lines: a heading is one.
   std::replace(line.begin(), line.end(), '\n', ' ');
   std::replace(line.begin(), line.end(), '\t', ' ');

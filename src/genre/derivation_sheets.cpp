@@ -185,8 +185,12 @@ LeftOut DerivationSheets::TakeMedium(const WorkbookRow& row) {
 
 // --- Keys and fields ------------------------------------------------------------
 
+// Headings are compared taken apart, as records hold them: a precomposed letter
+// would be lost from the key.
 std::string DerivationSheets::KeyOf(std::string_view text) const {
-  return WithUnderscores(record_.NormString(text, true, "V"));
+  bool changed = false;
+  const std::string apart = record_.DecomposeUnicodeCharactersInString(text, changed);
+  return WithUnderscores(record_.NormString(apart, true, "V"));
 }
 
 // The letter between is "v", whichever subdivision it is.

@@ -19,6 +19,8 @@ TEST(HeadingCommandTest, ReadsHeadingsAsPeopleWriteThem) {
        "\037aSuites\037xHistory\037zFrance\037ySince 1900"},
       // Nothing may pass for a further field or its identifier.
       {"Flute\nmusic\t12", "\037aFlute music 12"},
+      // As records hold it.
+      {"Ba\u011Flama music", "\037aBag\u0306lama music"},
       {"Duets $", "\037aDuets"},
       {"Duets $v", "\037aDuets"},
       {"$", ""},

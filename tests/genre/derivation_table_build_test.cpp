@@ -84,6 +84,13 @@ TEST(DerivationTableBuild, KeysOfTwoParts) {
   EXPECT_THAT(made.text, HasSubstr("X_X_YvZ_1=655#7\t1\ts\nXvY_1=655#7\t2\ts\n"));
 }
 
+// A workbook holds accented letters in one piece, a record in two.
+TEST(DerivationTableBuild, KeysWithAccents) {
+  const Made made =
+      Make("List 3", {{"\u00C9tudes d\u00E9licates", "$a1"}, {"e\u0301te\u0301", "$a2"}});
+  EXPECT_THAT(made.text, HasSubstr("ETUDES_DELICATES_1=655#7\t1\t\nETE_1=655#7\t2\t\n"));
+}
+
 TEST(DerivationTableBuild, SheetsEndBehindBlankRows) {
   const SheetsInMemory::Rows three = {{}, {}, {}, {"a", "$aA"}, {}, {"", " "}, {}, {"b", "$aB"}};
   EXPECT_THAT(Make("List 3", three).text, HasSubstr("A_1=655#7\tA\t\nB_1=655#7\tB\t\n"));
