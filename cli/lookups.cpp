@@ -109,7 +109,8 @@ bool Lookups::Prepare() {
   std::string fault;
   cache_ = OpenLookupCache(options_.cache_file, options_.cache_days, fault);
   if (cache_ != nullptr) return true;
-  std::fprintf(stderr, "cantorel: %s: %s\n", options_.cache_file.c_str(), fault.c_str());
+  std::fprintf(stderr, "cantorel: cannot keep look-ups in %s: %s\n", options_.cache_file.c_str(),
+               fault.c_str());
   return false;
 }
 

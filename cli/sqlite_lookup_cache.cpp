@@ -68,7 +68,7 @@ bool MayBeUsed(sqlite3* database, std::string& fault) {
     return false;
   }
   if (id == kApplicationId || (id == 0 && tables == 0)) return true;
-  fault = "is no cache of look-ups";
+  fault = "it is a database of something else";
   return false;
 }
 
