@@ -28,11 +28,19 @@ struct ConversionItem {
 // What became of it.
 struct ConversionResult {
   RecordAnswer answer;
-  std::string answer_text;  // the answer in the form asked for
-  std::string fault;        // why there is no answer; else empty
+  std::string text;  // the answer, or what it changes, as it is to be shown
+  bool changed = false;
+  std::string record;  // the record as it is to be written; empty: as it came
+  std::string fault;   // why it could not be read, or cannot be written; else empty
 
   void Clear() {
-    answer_text.clear();
+    answer.control_number.clear();
+    answer.title.clear();
+    answer.fields.clear();
+    answer.messages.clear();
+    text.clear();
+    changed = false;
+    record.clear();
     fault.clear();
   }
 };

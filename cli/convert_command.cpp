@@ -1,6 +1,7 @@
 #include "cli/convert_command.h"
 
 #include <CLI/CLI.hpp>
+#include <cstdio>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "cli/convert_options.h"
 #include "cli/item_converter.h"
 #include "cli/item_reader.h"
+#include "cli/output.h"
 #include "cli/result_writer.h"
 
 namespace cantorel::cli {
@@ -17,13 +19,54 @@ namespace {
 
 const std::map<std::string, Format> kFormats = {{"text", Format::kText}, {"json", Format::kJson}};
 
-ExitStatus RunConvert(const ConvertOptions& options) {
+// What was said on the command line and may not go together.
+struct Call {
+  ConvertOptions options;
+  bool in_place = false;
+  bool differences = false;
+  bool names_format = false;
+};
+
+// Why a call is refused; null when it is sound.
+const char* Objection(const Call& call) {
+  const ConvertOptions& options = call.options;
+  const bool writes = !options.output.empty();
+  if (call.in_place) {
+    return "--in-place is not done: write another file with --output, and keep this one";
+  }
+  if (writes && call.differences) return "--diff writes no file: leave --output out";
+  if (!writes && (options.only_changed || options.force || !options.rejects.empty())) {
+    return "--only-changed, --force and --rejects need --output";
+  }
+  if (options.lines && (writes || call.differences)) {
+    return "--lines goes neither with --output nor with --diff: field lines are no records";
+  }
+  if (call.differences && call.names_format) return "--format does not go with --diff";
+  if (options.output != "-") return nullptr;
+  if (options.rejects.empty()) {
+    return "--output - needs --rejects FILE, for records that cannot be written";
+  }
+  return call.names_format ? "--format does not go with --output -" : nullptr;
+}
+
+ExitStatus RunConvert(Call& call) {
+  if (const char* const objection = Objection(call)) {
+    std::fprintf(stderr, "cantorel: %s\n", objection);
+    return kWrongCall;
+  }
+  ConvertOptions& options = call.options;
+  if (!options.output.empty()) options.result = Result::kRecords;
+  if (call.differences) options.result = Result::kDifferences;
+  options.lists_answers = options.result == Result::kAnswers || call.names_format;
+  options.colours = OutputTakesColours();
+
   Lookups lookups(options.conversion.lookups);
   Converter component;
   if (!lookups.Prepare() || !component.Prepare(options.conversion, lookups)) return kWrongCall;
   ItemReader reader(options.files, options.lines);
   ItemConverter converter(component.Component(), options);
-  ResultWriter writer;
+  ResultWriter writer(options);
+  if (!writer.Open()) return kInputOutputFailed;
 
   ConversionItem item;
   ConversionResult result;
@@ -34,18 +77,44 @@ ExitStatus RunConvert(const ConvertOptions& options) {
   return writer.Finish() ? writer.Status() : kInputOutputFailed;
 }
 
+void AddOutputOptions(CLI::App& command, Call& call) {
+  ConvertOptions& options = call.options;
+  command
+      .add_option("--output", options.output,
+                  "Write the records with their new fields to a file; - is standard output, a "
+                  "name in .gz is compressed")
+      ->type_name("FILE");
+  command.add_flag("--only-changed", options.only_changed, "Write only the records that change");
+  command.add_flag("--force", options.force, "Replace files that are there already");
+  command
+      .add_option("--rejects", options.rejects,
+                  "Where records go that cannot be read, or not be written whole (default: the "
+                  "output with .rejects behind its name)")
+      ->type_name("FILE");
+  command.add_flag("--diff", call.differences,
+                   "Show what would change in each record, and write no file");
+  command.add_flag("--in-place", call.in_place, "Refused: a file is never changed where it stands");
+}
+
 }  // namespace
 
 void AddConvertCommand(CLI::App& app, Action& action) {
-  CLI::App* const command =
-      app.add_subcommand("convert", "Read MARC records and write the fields that each should have");
-  const auto options = std::make_shared<ConvertOptions>();
-  AddConversionOptions(*command, options->conversion);
-  AddChoice(*command, "--format", options->format, kFormats, "Form of the answers");
-  command->add_flag("--lines", options->lines,
+  CLI::App* const command = app.add_subcommand(
+      "convert",
+      "Read MARC records and write the fields that each should have, or the records "
+      "with these fields");
+  const auto call = std::make_shared<Call>();
+  ConvertOptions& options = call->options;
+  AddConversionOptions(*command, options.conversion);
+  AddChoice(*command, "--format", options.format, kFormats, "Form of the answers");
+  command->add_flag("--lines", options.lines,
                     "Read field lines, with $ as delimiter and a blank line between records");
-  AddFileArguments(*command, options->files);
-  command->callback([&action, options] { action = [options] { return RunConvert(*options); }; });
+  AddOutputOptions(*command, *call);
+  AddFileArguments(*command, options.files);
+  command->callback([&action, call, command] {
+    call->names_format = command->count("--format") > 0;
+    action = [call] { return RunConvert(*call); };
+  });
 }
 
 }  // namespace cantorel::cli

@@ -11,10 +11,24 @@
 
 namespace cantorel::cli {
 
+// What becomes of an answer.
+enum class Result {
+  kAnswers,      // the answers themselves are listed
+  kRecords,      // the records are written with the answers applied
+  kDifferences,  // what would change is shown
+};
+
 struct ConvertOptions {
   ConversionOptions conversion;
+  Result result = Result::kAnswers;
   Format format = Format::kText;
+  bool lists_answers = true;
+  bool colours = false;  // of the differences
   bool lines = false;
+  std::string output;
+  std::string rejects;  // empty: a name made of that of the output
+  bool only_changed = false;
+  bool force = false;
   std::vector<std::string> files;
 };
 

@@ -1,9 +1,22 @@
 #include "cli/item_converter.h"
 
+#include <array>
+
 #include "cli/answer_writers.h"
 #include "cli/ask.h"
+#include "cli/difference_writer.h"
+#include "record/record_image.h"
+#include "service/service_objects.h"
 
 namespace cantorel::cli {
+namespace {
+
+constexpr std::size_t kLengthDigits = 5;
+
+}  // namespace
+
+ItemConverter::ItemConverter(CantorelClass& cantorel, const ConvertOptions& options)
+    : cantorel_(cantorel), options_(options), editor_(TheMarcRecord()) {}
 
 void ItemConverter::Convert(const ConversionItem& item, ConversionResult& result) {
   result.Clear();
@@ -14,7 +27,9 @@ void ItemConverter::Convert(const ConversionItem& item, ConversionResult& result
   const std::string_view record = Readable(item.octets, result.fault);
   if (!result.fault.empty()) return;
   AskAboutRecord(cantorel_, record, options_.conversion.mode, result.answer);
-  AppendAnswer(options_.format, result.answer, result.answer_text);
+  result.changed = !result.answer.fields.empty();
+  if (options_.lists_answers) AppendAnswer(options_.format, result.answer, result.text);
+  if (options_.result != Result::kAnswers) Apply(record, item, result);
 }
 
 // The record, repaired if need be; a fault when it cannot be read.
@@ -30,6 +45,31 @@ std::string_view ItemConverter::Readable(const std::string& octets, std::string&
   repaired_ = record_.MarcRecordIn();
   if (repaired_.empty()) fault = why;
   return repaired_;
+}
+
+void ItemConverter::Apply(std::string_view record, const ConversionItem& item,
+                          ConversionResult& result) {
+  if (!result.changed) return Keep(record, item, result);
+  if (!editor_.Apply(record, result.answer.fields, result.record, result.fault)) return;
+  if (options_.result == Result::kDifferences) {
+    AppendDifferences(result.answer, editor_.Changes(), options_.colours, result.text);
+  }
+}
+
+// A record without changes is written as it came, but its leader must tell how
+// long it is: who reads it by that number would miss the record behind it.
+void ItemConverter::Keep(std::string_view record, const ConversionItem& item,
+                         ConversionResult& result) {
+  if (record.size() > kLongestRecord) {
+    result.fault = "The record is longer than " + std::to_string(kLongestRecord) + " octets";
+    return;
+  }
+  std::array<char, kLengthDigits> length;
+  WriteDigits(record.size(), length.size(), length.data());
+  const std::string_view told(length.data(), length.size());
+  if (item.octets.starts_with(told) && item.octets.size() == record.size()) return;
+  result.record = record;
+  result.record.replace(0, told.size(), told);
 }
 
 }  // namespace cantorel::cli

@@ -8,6 +8,7 @@
 
 #include "cli/conversion_item.h"
 #include "cli/convert_options.h"
+#include "cli/record_editor.h"
 #include "record/utf8_marc_record_class.h"
 
 namespace cantorel {
@@ -19,19 +20,21 @@ namespace cantorel::cli {
 // Belongs to one thread, as the component that it asks does.
 class ItemConverter {
  public:
-  ItemConverter(CantorelClass& cantorel, const ConvertOptions& options)
-      : cantorel_(cantorel), options_(options) {}
+  ItemConverter(CantorelClass& cantorel, const ConvertOptions& options);
 
   // `item` holds a record, not the failure of an input.
   void Convert(const ConversionItem& item, ConversionResult& result);
 
  private:
   std::string_view Readable(const std::string& octets, std::string& fault);
+  void Apply(std::string_view record, const ConversionItem& item, ConversionResult& result);
+  static void Keep(std::string_view record, const ConversionItem& item, ConversionResult& result);
 
   CantorelClass& cantorel_;
   const ConvertOptions& options_;
   Utf8MarcRecordClass record_;  // judges and repairs what was read
   std::string repaired_;
+  RecordEditor editor_;
 };
 
 }  // namespace cantorel::cli

@@ -25,7 +25,7 @@ bool ItemReader::Next(ConversionItem& item) {
 }
 
 void ItemReader::Open(const std::string& file) {
-  source_ = std::make_unique<FileSource>(file);
+  source_ = std::make_unique<InputFile>(file);
   if (lines_) {
     reader_ = std::make_unique<LineReader>(*source_);
   } else {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cli/conversion_item.h"
-#include "cli/input_buffer.h"
+#include "cli/input_file.h"
 #include "cli/record_reader.h"
 
 namespace cantorel::cli {
@@ -28,7 +28,7 @@ class ItemReader {
   const std::vector<std::string>& files_;
   const bool lines_;
   std::size_t opened_ = 0;  // how many of the files
-  std::unique_ptr<FileSource> source_;
+  std::unique_ptr<InputFile> source_;
   std::unique_ptr<RecordReader> reader_;  // null between two files
 };
 

@@ -2,8 +2,11 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
+
+#include "platform/terminal.h"
 
 namespace cantorel::cli {
 namespace {
@@ -22,6 +25,11 @@ bool WriteOutput(std::string_view text) {
 
 bool FinishOutput() {
   return std::fflush(stdout) == 0 || SayThatOutputFailed();
+}
+
+bool OutputTakesColours() {
+  const char* const no_colour = std::getenv("NO_COLOR");
+  return IsTerminal(stdout) && (no_colour == nullptr || *no_colour == '\0');
 }
 
 }  // namespace cantorel::cli

@@ -13,6 +13,10 @@ bool WriteOutput(std::string_view text);
 // To be called once at the end: what was written may still be on its way.
 bool FinishOutput();
 
+// Whether standard output is a terminal whose user wants colours: the variable
+// NO_COLOR (no-color.org) says that he does not.
+bool OutputTakesColours();
+
 }  // namespace cantorel::cli
 
 #endif  // CANTOREL_CLI_OUTPUT_H_

@@ -30,6 +30,7 @@ std::string BehindLinks(const std::string& name) {
 
 bool OutputFile::Open(const std::string& name) {
   name_ = name;
+  if (name.ends_with(".gz")) gzip_.emplace();
   if (name == "-") return true;
   if (IsDevice(name)) {
     device_ = std::fopen(name.c_str(), "wb");
@@ -40,12 +41,17 @@ bool OutputFile::Open(const std::string& name) {
 }
 
 bool OutputFile::Write(std::string_view text) {
-  if (new_file_) return new_file_->Write(text) || Fail();
-  if (device_ == nullptr) return WriteOutput(text);
-  return std::fwrite(text.data(), 1, text.size(), device_) == text.size() || Fail();
+  return WriteOctets(gzip_ ? gzip_->Compress(text) : text);
+}
+
+bool OutputFile::WriteOctets(std::string_view octets) {
+  if (new_file_) return new_file_->Write(octets) || Fail();
+  if (device_ == nullptr) return WriteOutput(octets);
+  return std::fwrite(octets.data(), 1, octets.size(), device_) == octets.size() || Fail();
 }
 
 bool OutputFile::Finish() {
+  if (gzip_ && !WriteOctets(gzip_->Finish())) return false;
   if (new_file_) return new_file_->Complete() || Fail();
   if (device_ == nullptr) return FinishOutput();
   std::FILE* const device = device_;
@@ -61,6 +67,13 @@ void OutputFile::Discard() {
 
 bool OutputFile::Fail() {
   std::fprintf(stderr, "cantorel: cannot write %s: %s\n", name_.c_str(), std::strerror(errno));
+  return false;
+}
+
+bool MayWrite(const std::string& name, bool force) {
+  std::error_code error;
+  if (force || name == "-" || !fs::exists(name, error) || IsDevice(name)) return true;
+  std::fprintf(stderr, "cantorel: %s is there already; --force replaces it\n", name.c_str());
   return false;
 }
 

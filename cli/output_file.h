@@ -8,13 +8,15 @@
 #include <string>
 #include <string_view>
 
+#include "cli/gzip.h"
 #include "platform/new_file.h"
 
 namespace cantorel::cli {
 
 // A file stands under its name only when it is whole: until then what was
 // written lies beside it under another name, and a run that fails leaves behind
-// what stood there.  A device or a pipe is written straight away.
+// what stood there.  A device or a pipe is written straight away.  A file whose
+// name ends in ".gz" is compressed.
 //
 // Every call that answers false has said why on standard error.
 class OutputFile {
@@ -34,12 +36,19 @@ class OutputFile {
   void Discard();
 
  private:
+  bool WriteOctets(std::string_view octets);
   bool Fail();
 
   std::string name_;
+  std::optional<GzipCompressor> gzip_;
   std::optional<NewFile> new_file_;
   std::FILE* device_ = nullptr;
 };
+
+// Whether a call may write a file of this name: there is none, or only something
+// that is no file, or it is to be replaced (`force`).  If not, says so on standard
+// error.
+bool MayWrite(const std::string& name, bool force);
 
 }  // namespace cantorel::cli
 

@@ -3,15 +3,22 @@
 #ifndef CANTOREL_CLI_RESULT_WRITER_H_
 #define CANTOREL_CLI_RESULT_WRITER_H_
 
+#include <cstdint>
+
 #include "cli/conversion_item.h"
+#include "cli/convert_options.h"
 #include "cli/exit_status.h"
+#include "cli/record_output.h"
 
 namespace cantorel::cli {
 
 class ResultWriter {
  public:
-  // Both answer false, having said why on standard error, when nothing more can
-  // be written.
+  explicit ResultWriter(const ConvertOptions& options) : options_(options) {}
+
+  // All of these answer false, having said why on standard error, when nothing
+  // can be written, or no more.
+  bool Open();
   bool Write(const ConversionItem& item, const ConversionResult& result);
   // To be called once, when all is written.
   bool Finish();
@@ -20,9 +27,25 @@ class ResultWriter {
   ExitStatus Status() const { return status_; }
 
  private:
-  void SayThatInputFailed(const ConversionItem& item);
-  void SayUnreadable(const ConversionItem& item, const ConversionResult& result);
+  struct Totals {
+    std::uint64_t records = 0;
+    std::uint64_t changed = 0;
+    std::uint64_t fields_added = 0;
+    std::uint64_t fields_replaced = 0;
+    std::uint64_t written = 0;
+    std::uint64_t rejected = 0;
+  };
 
+  bool WritesRecords() const { return options_.result == Result::kRecords; }
+  void Count(const ConversionResult& result);
+  bool WriteRecord(const ConversionItem& item, const ConversionResult& result);
+  void SayThatInputFailed(const ConversionItem& item);
+  void SayFault(const ConversionItem& item, const ConversionResult& result);
+  void SayTotals() const;
+
+  const ConvertOptions& options_;
+  RecordOutput output_;
+  Totals totals_;
   ExitStatus status_ = kAllWell;
 };
 

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "cli/answer_writers.h"
+#include "cli/field_text.h"
 #include "service/cantorel_class.h"
 
 namespace cantorel::cli {
@@ -34,13 +35,7 @@ std::string Heading(const RecordAnswer& answer) {
 
 void AppendField(const FieldAnswer& field, std::string& out) {
   out += field.IsReplacement() ? "  replace  " : "  add      ";
-  out += field.tag;
-  out += ' ';
-  for (const char indicator : field.indicators) out += indicator == ' ' ? '_' : indicator;
-  for (const Subfield& subfield : SplitSubfields(field.text)) {
-    out.append(" $").append(subfield.code);
-    if (!subfield.text.empty()) out.append(" ").append(subfield.text);
-  }
+  AppendReadableField(field.tag, field.indicators, field.text, out);
   if (field.IsReplacement()) out += "  (field " + std::to_string(field.id) + ")";
   out += '\n';
 }

@@ -1,5 +1,11 @@
 #include "platform/terminal.h"
 
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace cantorel {
 namespace {
 
@@ -12,6 +18,14 @@ constexpr char kOutput[] = "/dev/tty";
 #endif
 
 }  // namespace
+
+bool IsTerminal(std::FILE* stream) {
+#ifdef _WIN32
+  return _isatty(_fileno(stream)) != 0;
+#else
+  return ::isatty(::fileno(stream)) != 0;
+#endif
+}
 
 Terminal::Terminal() : in_(std::fopen(kInput, "r")), out_(std::fopen(kOutput, "w")) {}
 

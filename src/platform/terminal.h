@@ -11,6 +11,9 @@
 
 namespace cantorel {
 
+// Whether what is written to a stream shows in a terminal.
+bool IsTerminal(std::FILE* stream);
+
 class Terminal {
  public:
   // Opens the terminal; IsOpen tells whether there is one.

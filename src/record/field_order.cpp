@@ -124,6 +124,12 @@ Utf8MarcRecordClass::OrderKey Utf8MarcRecordClass::MakeFieldOrderKey(std::string
   return {whole.substr(0, length), whole.substr(length)};
 }
 
+std::string_view Utf8MarcRecordClass::FldOrderKey(std::string_view tag, std::string_view indicators,
+                                                  std::string_view text) {
+  FindDelimiters(text);
+  return MakeFieldOrderKey(tag, indicators, text).key;
+}
+
 // Adds what orders the fields of one range to the key.
 void Utf8MarcRecordClass::AppendKeyOfKind(FieldOrderKind kind, const SortedField& field) {
   std::string& key = order_key_;

@@ -388,6 +388,11 @@ class Utf8MarcRecordClass {
   // and its subfields by the defaults.  An empty value is ignored.
   std::string FldOrderFolder() const { return field_order_folder_; }
   void FldOrderFolder(std::string_view folder);
+  // By what a field would be ordered among those of the record held, its pairing
+  // with an 880 apart: fields of smaller keys stand before it.  The tag is three
+  // digits.  Valid until the next record is loaded.
+  std::string_view FldOrderKey(std::string_view tag, std::string_view indicators,
+                               std::string_view text);
   // When true, what is read of the subfield orders is told in a new text file in
   // DebugFilePath (which ends in its separator), or without one in the user's
   // "My Documents".

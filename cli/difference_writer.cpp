@@ -1,0 +1,59 @@
+#include "cli/difference_writer.h"
+
+#include <string_view>
+
+#include "cli/field_text.h"
+
+namespace cantorel::cli {
+namespace {
+
+// How a terminal is told.
+constexpr std::string_view kBold = "\033[1m";
+constexpr std::string_view kRed = "\033[31m";
+constexpr std::string_view kGreen = "\033[32m";
+constexpr std::string_view kPlain = "\033[0m";
+
+class Lines {
+ public:
+  Lines(bool colours, std::string& out) : colours_(colours), out_(out) {}
+
+  void Add(std::string_view colour, std::string_view line) {
+    if (colours_) out_ += colour;
+    out_ += line;
+    if (colours_) out_ += kPlain;
+    out_ += '\n';
+  }
+
+ private:
+  const bool colours_;
+  std::string& out_;
+};
+
+std::string Heading(const RecordAnswer& answer) {
+  std::string heading = answer.source + ": record " + std::to_string(answer.record);
+  for (const std::string& words : {answer.control_number, answer.title}) {
+    if (!words.empty()) heading += "  " + words;
+  }
+  return heading;
+}
+
+std::string FieldLine(char sign, std::string_view tag, std::string_view field) {
+  std::string line{sign, ' '};
+  AppendReadableField(tag, field.substr(0, 2), field, line);
+  return line;
+}
+
+}  // namespace
+
+void AppendDifferences(const RecordAnswer& answer, const std::vector<RecordEditor::Change>& changes,
+                       bool colours, std::string& out) {
+  Lines lines(colours, out);
+  lines.Add(kBold, Heading(answer));
+  for (const RecordEditor::Change& change : changes) {
+    if (!change.before.empty()) lines.Add(kRed, FieldLine('-', change.tag, change.before));
+    lines.Add(kGreen, FieldLine('+', change.tag, change.after));
+  }
+  out += '\n';
+}
+
+}  // namespace cantorel::cli

@@ -1,0 +1,53 @@
+#include "cli/record_output.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace cantorel::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool AreOneFile(const std::string& name, const std::string& other) {
+  std::error_code error;
+  return fs::is_regular_file(name, error) && fs::equivalent(name, other, error);
+}
+
+bool IsNoInput(const std::string& name, const std::vector<std::string>& inputs) {
+  const bool is_input = std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
+    return AreOneFile(name, input);
+  });
+  if (is_input) {
+    std::fprintf(stderr, "cantorel: %s is one of the files to read; name another\n", name.c_str());
+  }
+  return !is_input;
+}
+
+}  // namespace
+
+bool RecordOutput::Open(const Names& names) {
+  output_name_ = names.output;
+  rejects_name_ = names.rejects.empty() ? names.output + ".rejects" : names.rejects;
+  for (const std::string& name : {output_name_, rejects_name_}) {
+    if (!IsNoInput(name, names.inputs) || !MayWrite(name, names.force)) return false;
+  }
+  return output_.Open(output_name_);
+}
+
+bool RecordOutput::Reject(std::string_view octets) {
+  if (!has_rejects_ && !rejects_.Open(rejects_name_)) return false;
+  has_rejects_ = true;
+  return rejects_.Write(octets);
+}
+
+bool RecordOutput::Finish() {
+  // The rejects first: records that are in neither file would be lost.
+  if (has_rejects_) return rejects_.Finish() && output_.Finish();
+  std::error_code error;
+  if (fs::is_regular_file(rejects_name_, error)) fs::remove(rejects_name_, error);
+  return output_.Finish();
+}
+
+}  // namespace cantorel::cli
