@@ -24,8 +24,8 @@ class LookupCache {
 };
 
 // Opens a cache, or makes one where there is no file.  Answers of an
-// age of `most_days` do not count any more; with 0 none does.  Null when that cannot be done or the file is
-// something else, which is then left as it is; `fault` says why.
+// age of `most_days` do not count any more; with 0 none does.  Null when that cannot be done or the
+// file is something else, which is then left as it is; `fault` says why.
 //
 // A fault that shows later (the disk is full, the file damaged) is said once on
 // standard error; from then on nothing is found or kept.

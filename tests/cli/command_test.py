@@ -5,6 +5,7 @@ usage: command_test.py COMMAND SOURCE_FOLDER [TEST...]
 """
 
 import fcntl
+import gzip
 import json
 import os
 import pty
@@ -68,6 +69,10 @@ def image(*fields, record_type="c"):
 
 FLUTE = image(("001", b"flute"), ("245", b"00\x1faSyrinx /\x1fcDebussy."),
               ("650", b" 0\x1faFlute music."))
+
+FLUTE_WITH_382 = image(("001", b"flute"), ("245", b"00\x1faSyrinx /\x1fcDebussy."),
+                       ("382", b"01\x1faflute\x1fn1\x1fs1\x1f2lcmpt"),
+                       ("650", b" 0\x1faFlute music."))
 
 
 CANONS = ["heading", "--mode", "655", "--json", "Canons, fugues, etc.", "--canons"]
@@ -302,6 +307,86 @@ class CommandTest(unittest.TestCase):
     def test_empty_input_is_no_fault(self):
         self.assertEqual(self.answers(self.file("empty.mrc", b"")), [])
         self.assertEqual(self.answers(stdin=b""), [])
+
+    # --- Records written -------------------------------------------------------------
+
+    def convert_to(self, output, *arguments, said=(), status=0):
+        """The octets written, and what was said beside the line of totals."""
+        done = run("convert", "--mode", "382", "--output", output, *arguments)
+        error = done.stderr.decode()
+        self.assertEqual((done.returncode, done.stdout), (status, b""), error)
+        for words in said:
+            self.assertIn(words, error)
+        return output.read_bytes()
+
+    def test_records_are_written_with_their_new_fields(self):
+        plain = image(("001", b"plain"), ("500", b"  \x1faNothing to add."))
+        path = self.file("in.mrc", FLUTE + b"\r\n" + plain)
+        written = self.convert_to(self.folder / "out.mrc", path,
+                                  said=["2 records read, 1 changed (1 fields added, 0 replaced), "
+                                        "2 written to "])
+        self.assertEqual(written, FLUTE_WITH_382 + plain)
+        self.assertEqual(self.convert_to(self.folder / "changed.mrc", "--only-changed", path),
+                         FLUTE_WITH_382)
+        done = run("convert", "--output", "-", "--rejects", self.folder / "r", "--mode", "382",
+                   path)
+        self.assertEqual(done.stdout, written)
+        self.assertEqual(sorted(p.name for p in self.folder.iterdir()),
+                         ["changed.mrc", "in.mrc", "out.mrc"])
+
+    def test_compressed_files(self):
+        half = gzip.compress(FLUTE)
+        path = self.file("in", half + half + bytes(512))
+        written = self.convert_to(self.folder / "out.mrc.gz", path)
+        self.assertEqual(gzip.decompress(written), FLUTE_WITH_382 * 2)
+        for octets, why in ((half + half[:-9], "ends too soon"), (half + b"x", "other octets"),
+                            (half[:20] + b"\0\0" + half[22:] + half, "")):
+            self.convert_to(self.folder / "out.mrc", "--force", self.file("in", octets), status=3,
+                            said=[f"cannot read {path}: ", why])
+
+    def test_records_that_cannot_be_written_are_put_aside(self):
+        bad = FLUTE[:70]
+        long = image(("001", b"long"), *[("500", b"  \x1fa" + b"x" * 9973)] * 10,
+                     ("650", b" 0\x1faFlute music."))
+        self.assertEqual(len(long), 99972)
+        path = self.file("in.mrc", FLUTE + bad + FLUTE + long)
+        output = self.folder / "out.mrc"
+        written = self.convert_to(output, path, status=1, said=[
+            f"{path}: record 2 at offset {len(FLUTE)}: ", f"record 4 at offset {len(FLUTE * 2) + 70}"
+            ", control number long: The record would be longer than 99999 octets",
+            f"2 put aside in {output}.rejects"])
+        self.assertEqual(written, FLUTE_WITH_382 * 2)
+        self.assertEqual((self.folder / "out.mrc.rejects").read_bytes(), bad + long)
+        # Those of an earlier run do not stay beside the output of a later one.
+        self.convert_to(output, "--force", self.file("in.mrc", FLUTE))
+        self.assertFalse((self.folder / "out.mrc.rejects").exists())
+
+    def test_outputs_that_are_refused_or_fail_leave_what_was_there(self):
+        path = self.file("in.mrc", FLUTE)
+        there = self.file("there.mrc", b"kept")
+        for output, options, status, why in (
+                (there, [], 3, "is there already"), (path, ["--force"], 3, "one of the files to read"),
+                (self.folder / "none" / "x", [], 3, "No such file"), ("/dev/full", [], 3, "No space"),
+                ("-", [], 2, "--rejects"), (there, ["--diff"], 2, "--diff"),
+                (there, ["--lines"], 2, "--lines"), (there, ["--in-place"], 2, "--in-place")):
+            self.check(run("convert", "--output", output, *options, path), status, why)
+        self.assertEqual((there.read_bytes(), path.read_bytes()), (b"kept", FLUTE))
+
+    def test_differences(self):
+        path = self.file("in.mrc", FLUTE + image(
+            ("001", b"oboe"), ("382", b"01\x1faOboe\x1fn1\x1fs1\x1f2lcmpt"),
+            ("650", b" 0\x1faOboe music.")))
+        done = run("convert", "--diff", "--mode", "382", path)
+        self.check(done, 0)
+        self.assertEqual(done.stdout.decode(), f"""\
+{path}: record 1  flute  Syrinx
++ 382 01 $a flute $n 1 $s 1 $2 lcmpt
+
+{path}: record 2  oboe
+- 382 01 $a Oboe $n 1 $s 1 $2 lcmpt
++ 382 01 $a oboe $n 1 $s 1 $2 lcmpt
+
+""")
 
     # --- Wrong calls and failed writing ----------------------------------------------
 
