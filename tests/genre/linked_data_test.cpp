@@ -250,21 +250,16 @@ TEST_F(LookUpTest, LeavesOpenWhatTheFirstNationalityDoesNotSettle) {
   }
 }
 
-// Terms are not asked for after a failure, nationalities are.
-TEST_F(LookUpTest, AsksForNationalitiesThoughTermsAreOffline) {
+TEST_F(LookUpTest, AsksAgainAfterATimeWithoutAClientAndForNationalitiesAlways) {
   AddPeople("poles", "dg1", Field("072", "$anat") + Field("150", "$aPoles"));
-  server_.At(NameSearch("x"), LoopbackServer::BrokenChunks);
-  EXPECT_FALSE(Term("naf", "x"));
-  EXPECT_TRUE(Nationality("pole"));
-}
-
-TEST_F(LookUpTest, AsksNothingWithoutAClient) {
   session_.http_get = nullptr;
   EXPECT_FALSE(Term("naf", "x"));
   EXPECT_FALSE(Nationality("pole"));
   session_.http_get = http_.get();
+  server_.At(NameSearch("x"), LoopbackServer::BrokenChunks);
   EXPECT_FALSE(Term("naf", "x"));
-  EXPECT_THAT(server_.TakeRequests(), SizeIs(1));
+  EXPECT_TRUE(Nationality("pole"));
+  EXPECT_THAT(server_.TakeRequests(), SizeIs(3));
 }
 
 }  // namespace
