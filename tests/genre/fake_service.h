@@ -7,7 +7,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "medium/music_session.h"
 #include "platform/http_get.h"
@@ -39,7 +38,7 @@ class FakeService : public HttpGet {
   }
 
   bool Get(const std::string& url, const std::string&, HttpAnswer& answer) override {
-    requests.push_back(Brief(url));
+    requests += Brief(url) + " / ";
     if (!up) return false;
     answer.status = answers_.count(url) != 0 ? 200 : 404;
     answer.body = answers_[url];
@@ -47,18 +46,20 @@ class FakeService : public HttpGet {
   }
 
   bool up = true;
-  // "names: boston%20mass" for a search, the identifier for a record.
-  std::vector<std::string> requests;
+  // "n boston%20mass" for a search among names (s subjects, d demographic terms),
+  // the identifier for a record; " / " behind each.
+  std::string requests;
 
  private:
-  static std::string Brief(std::string url) {
+  static std::string Brief(const std::string& url) {
     if (url.rfind(kSearch, 0) != 0) {
       const std::size_t end = url.find_last_of("/.", url.find("marcxml"));
-      return url.substr(url.rfind('/', end - 1) + 1, end - url.rfind('/', end - 1) - 1);
+      const std::size_t begin = url.rfind('/', end - 1) + 1;
+      return url.substr(begin, end - begin);
     }
     const std::size_t scheme = url.find(kScheme);
     const std::size_t label = std::string_view(kSearch).size();
-    return url.substr(scheme + std::string_view(kScheme).size()) + ": " +
+    return url.substr(scheme + std::string_view(kScheme).size(), 1) + ' ' +
            url.substr(label, scheme - label);
   }
 
