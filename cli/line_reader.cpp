@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "charset/decomposition.h"
 #include "cli/record_reader.h"
 
 namespace cantorel::cli {
@@ -35,6 +36,9 @@ bool LineReader::Next(Piece& piece) {
   }
   if (record_.empty()) return false;
   std::replace(record_.begin(), record_.end(), '$', kDelimiter);
+  // Lines come as they were typed, records hold letters and marks apart.
+  std::string apart;
+  if (DecomposeText(record_, apart)) record_.swap(apart);
   piece.octets = record_;
   piece.number = ++count_;
   return true;

@@ -123,6 +123,8 @@ TEST(LineReaderTest, CutsAtBlankLines) {
                            {{0, "cm\n650 0\037aDuets"}, {18, "jm\n650 0\037aTrios\t7"}});
   ExpectPieces<LineReader>("cm\r\n650 0$aDuets\r\n \r\njm\r\n",
                            {{0, "cm\n650 0\037aDuets"}, {21, "jm"}});
+  // Letters and marks come apart, as records hold them.
+  ExpectPieces<LineReader>("cm\n650 0$aT\u00EAte", {{0, "cm\n650 0\037aTe\u0302te"}});
 }
 
 TEST(FileSourceTest, SaysWhyAFileCannotBeRead) {
