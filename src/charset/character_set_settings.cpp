@@ -40,12 +40,17 @@ void Utf8MarcRecordClass::CharacterSetOut(std::string_view letter) {
   SetCharacterSetOutLetter(wanted == 'Y' ? 'M' : wanted, letter == "ULC");
 }
 
-// Only a record that is held has text to translate.
+// Only a record that is held has text to translate, and that is in the output
+// set so far: this counts as the input set for the moment.
 void Utf8MarcRecordClass::SetCharacterSetOutLetter(char letter, bool lc_pattern) {
   const char before = character_set_out_;
   character_set_out_ = letter;
   lc_pattern_ = letter == 'U' && lc_pattern;
-  if (table_.Count() > 0 && before != letter) TranslateRecord();
+  if (table_.Count() == 0 || before == letter) return;
+  const char set_in = character_set_in_;
+  character_set_in_ = before;
+  TranslateRecord();
+  character_set_in_ = set_in;
 }
 
 std::string Utf8MarcRecordClass::CharacterizeCharacterSet(std::string_view image) const {

@@ -110,6 +110,7 @@ void Utf8MarcRecordClass::LoadInCharacterSet(char set) {
   LoadFields();
   if (accented && !disable_utf8_decomposition_) DecomposeAllFields();
   SetCharacterSetOutLetter(wanted, lc_pattern_);
+  if (accented && wanted == set) AdjustDoubleMarks();
 }
 
 void Utf8MarcRecordClass::LoadFields() {

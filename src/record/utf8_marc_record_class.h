@@ -37,6 +37,9 @@
 #include <string_view>
 #include <vector>
 
+#include "charset/marc8_writer.h"
+#include "charset/octet_variant.h"
+#include "charset/pending_marks.h"
 #include "charset/utf8_char_class.h"
 #include "record/field_orders.h"
 #include "record/field_table.h"
@@ -117,6 +120,7 @@ class Utf8MarcRecordClass {
   // A rebuilt field keeps its numeric subfields that the new text lacks.
   bool PreserveLeadingNumericSubfields() const { return preserve_leading_numeric_subfields_; }
   void PreserveLeadingNumericSubfields(bool value) { preserve_leading_numeric_subfields_ = value; }
+  // The halves of marks over two letters, which MARC-8 has, become one mark.
   bool UseDoubleWidthDiacritics() const { return use_double_width_diacritics_; }
   void UseDoubleWidthDiacritics(bool value) { use_double_width_diacritics_ = value; }
   bool ReferringToVoyagerIsOK() const { return referring_to_voyager_is_ok_; }
@@ -605,7 +609,9 @@ class Utf8MarcRecordClass {
   // --- Character sets (see charset/) -----------------------------------------
 
   // "U" UTF-8, "M" MARC-8, "O" and "V" two 8-bit variants, "L" Windows text.
-  // Throw MarcClassError (380) for any other letter.
+  // Throw MarcClassError (380) for any other letter.  Setting the output set
+  // translates the record held: its fields, the 066 that names the sets used, and
+  // leader/09.  "ULC" is "U" with the directions of right-to-left fields marked.
   std::string CharacterSetIn() const;
   void CharacterSetIn(std::string_view letter);
   std::string CharacterSetOut() const { return std::string(1, character_set_out_); }
@@ -623,6 +629,49 @@ class Utf8MarcRecordClass {
   // `pair` "L2M": Windows text as MARC-8.  Any other: one UTF-8 character as its
   // plain form in UTF-8, or itself (charset/windows_text.h).
   static std::string MsoftAscii2Marc(std::string_view text, std::string_view pair);
+  // True when every character of UTF-8 text is Latin or East Asian in MARC-8.
+  static bool Utf8TextContainsOnlyMarc8Characters(std::string_view text);
+  // UTF-8 text with the halves of marks over two letters joined if
+  // UseDoubleWidthDiacritics is set (charset/double_marks.h).
+  std::string AdjustDoubleHalfDiacritics(std::string_view text) const;
+
+  // The steps of a translation, one field at a time.  `changed`: the text or the
+  // indicators are other than before.
+
+  // From the set CharacterSetIn to UTF-8 (charset/marc8_reader.h).  `format` is
+  // as MarcRecordFormat gives it.  A count of nonfiling characters that includes
+  // marks of the letter behind them is corrected in `indicators`.  `error`: some
+  // octets are no characters and stand as "[MARC+" digits "]".
+  void TranslateMarc2Utf8OneField(std::string_view format, std::string_view tag,
+                                  std::string& indicators, std::string& text, bool& changed,
+                                  bool& error);
+  // A part of a field that is in one pair of sets, by codes such as "s", "(N".
+  void TranslateMarc2Utf8Text(std::string_view g0, std::string_view g1, std::string_view tag,
+                              std::string& text, bool& changed, bool& error);
+  // Takes the escape sequence at `position` (from 1) off: `code` is the code it
+  // designates, `text` what stands behind it.  Both stay if there is none.
+  static void TranslateMarc2Utf8OneFieldFindBreakAdjustCode(std::string& code,
+                                                            std::int32_t position,
+                                                            std::string& text);
+  // Numeric notation to characters (charset/numeric_notation.h).
+  static void TranslateMarc2Utf8HexNotation(std::string& text);
+  // The text of a right-to-left 880 with its directions marked
+  // (charset/right_to_left.h); any other comes back.
+  static std::string TranslateMarc2Utf8OneFieldLcPattern(std::string_view tag,
+                                                         std::string_view text);
+  // Octets of pairs of upper-case hexadecimal digits.
+  static std::string Hex2CharString(std::string_view text);
+  // From UTF-8 to "M", "O" or "V" (charset/marc8_writer.h).  The indicators stay,
+  // and there is no error: what the set lacks becomes numeric notation.
+  void TranslateUtf82MarcOneField(std::string_view tag, std::string& indicators, std::string& text,
+                                  bool& changed, bool& error, std::string_view set_out);
+  // Does nothing.
+  void TranslateUtf8Text2Marc() const {}
+  // Between the 8-bit variants: chooses the table of a pair of sets, by number
+  // (charset/octet_variant.h), and applies it to a text in Latin.
+  void SetUpTranslation(std::int32_t pair);
+  std::string Translate880FieldTranslateThePiece(std::string_view piece) const;
+
   // The record's character object, for questions about one character.
   Utf8CharClass& CharClass() { return char_class_; }
 
@@ -819,6 +868,15 @@ class Utf8MarcRecordClass {
   // Character sets (charset/).
   void SetCharacterSetOutLetter(char letter, bool lc_pattern);
   void TranslateRecord();
+  void TranslateToUtf8();
+  void TranslateToMarc8();
+  void TranslateOctets(std::int32_t pair);
+  void TranslateFromWindows();
+  std::string Translate880Field(std::string_view text) const;
+  template <typename Skips, typename Translate>
+  bool TranslateFields(Skips skips, Translate translate);
+  void Delete066();
+  void AdjustDoubleMarks();
   void DecomposeAllFields();
 
   // Cursors (field_cursor.cpp, subfield_cursor.cpp).
@@ -912,6 +970,10 @@ class Utf8MarcRecordClass {
   bool characters_decomposed_ = false;
   char normalization_scheme_ = 'V';
   Utf8CharClass char_class_;
+  PendingMarks pending_marks_;
+  Marc8SetsUsed sets_used_;                  // since the last translation to MARC-8 began
+  const OctetTable* octet_table_ = nullptr;  // null: none chosen
+  std::string translated_;                   // the field text under construction
 
   // Settings.
   std::string ini_file_path_;
