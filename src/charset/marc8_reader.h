@@ -27,7 +27,9 @@ class Marc8Reader {
   // letters, in other fields those of the Latin sets.  `marks` is a work space;
   // the text is appended to `out`, which holds the field from its beginning.
   Marc8Reader(char letter, bool is_880, PendingMarks& marks, std::string& out)
-      : letter_(letter), is_880_(is_880), marks_(marks), out_(out) {}
+      : letter_(letter), is_880_(is_880), marks_(marks), out_(out) {
+    marks_.Clear();
+  }
 
   Marc8Sets& Sets() { return sets_; }
 
