@@ -68,21 +68,23 @@ bool Marc8Half::operator==(const Marc8Half& other) const {
 }
 
 void Marc8Sets::Assign(Marc8Half g0, Marc8Half g1) {
+  Reset();
   g0_ = last_g0_ = g0;
-  g1_ = last_g1_ = g1;
+  g1_ = g1;
 }
 
 void Marc8Sets::Take(const Marc8Escape& escape) {
   (escape.is_g1 ? g1_ : g0_) = Marc8Half(escape.Code());
+  g1_came_ = g1_came_ || escape.is_g1;
   settled_ = false;
 }
 
 void Marc8Sets::Settle() {
   if (settled_) return;
-  settled_ = true;
-  if (!(g0_ == last_g0_) && g1_ == last_g1_) g1_ = Marc8Half(PartnerOf(g0_));
+  if (!(g0_ == last_g0_) && !g1_came_) g1_ = Marc8Half(PartnerOf(g0_));
   last_g0_ = g0_;
-  last_g1_ = g1_;
+  g1_came_ = false;
+  settled_ = true;
 }
 
 }  // namespace cantorel

@@ -47,20 +47,23 @@ class Marc8Sets {
   // Takes an escape sequence in.  Several in a row count as one change.
   void Take(const Marc8Escape& escape);
 
-  // To be called before text is read: a new G0 whose escapes left G1 alone brings
-  // its partner along (Cyrillic and Arabic their extended sets, all others Latin).
+  // To be called before text is read: a new G0 that came without a G1 brings its
+  // partner along (Cyrillic and Arabic their extended sets, all others Latin).
   void Settle();
 
   const Marc8Half& G0() const { return g0_; }
   const Marc8Half& G1() const { return g1_; }
-  bool G0IsLatin() const { return g0_ == Marc8Half(Marc8Set::kLatin); }
-  bool BothAreLatin() const { return G0IsLatin() && g1_ == Marc8Half(Marc8Set::kLatin); }
+  bool G0IsLatin() const { return g0_.known && g0_.designation.set == Marc8Set::kLatin; }
+  // In the usual halves: ASCII below 128, ANSEL above.
+  bool BothAreLatin() const {
+    return g0_ == Marc8Half(Marc8Set::kLatin) && g1_ == Marc8Half(Marc8Set::kLatin);
+  }
 
  private:
   Marc8Half g0_{Marc8Set::kLatin};
   Marc8Half g1_{Marc8Set::kLatin};
-  Marc8Half last_g0_{Marc8Set::kLatin};  // those that the text before was read in
-  Marc8Half last_g1_{Marc8Set::kLatin};
+  Marc8Half last_g0_{Marc8Set::kLatin};  // the one that the text before was read in
+  bool g1_came_ = false;                 // since that text
   bool settled_ = true;
 };
 

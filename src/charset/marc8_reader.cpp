@@ -34,6 +34,7 @@ bool IsSameInMarc8(std::string_view text) {
 
 void Marc8Reader::Read(std::string_view text) {
   while (!text.empty()) {
+    if (text[0] != kEscape) sets_.Settle();
     if (sets_.BothAreLatin() && marks_.Empty()) {
       const std::size_t plain = FindMarc8Sign(text, 0);
       out_.append(text, 0, plain);
