@@ -103,7 +103,7 @@ TEST(XmlRecordOut, WritesWhatXmlRecordInReads) {
   record.NewRecord("c", "m");
   record.FldAdd("245", "10",
                 "\x1F"
-                "aA <b> & \"c\" 'd' \xC3\xA9\x1F"
+                "aA <b> & \"c\" 'd' e\xCC\x81\x1F"
                 "c\xFF\x01z");
   record.FldAdd("880", "1 ",
                 "\x1F"
@@ -116,7 +116,7 @@ TEST(XmlRecordOut, WritesWhatXmlRecordInReads) {
   EXPECT_THAT(xml, testing::HasSubstr("a2200000n  4500</marc:leader>\r\n"));
   EXPECT_THAT(xml, testing::HasSubstr("<marc:datafield tag=\"245\" ind1=\"1\" ind2=\"0\">\t\t"
                                       "<marc:subfield code=\"a\">A &lt;b&gt; &amp; &quot;c&quot; "
-                                      "&apos;d&apos; \xC3\xA9</marc:subfield>\r\n"
+                                      "&apos;d&apos; e\xCC\x81</marc:subfield>\r\n"
                                       "\t\t<marc:subfield code=\"c\">\xEF\xBF\xBDz<"));
   const std::string before = Fields(record);
   record.XmlRecordIn(xml);
