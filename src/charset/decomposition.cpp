@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "charset/combining_marks.h"
 #include "charset/marc_control.h"
 #include "charset/substitutes.h"
 #include "charset/utf8.h"
@@ -15,9 +16,6 @@
 namespace cantorel {
 
 namespace {
-
-constexpr std::uint32_t kDoubleTilde = 0x0360;
-constexpr std::uint32_t kDoubleInvertedBreve = 0x0361;
 
 // The halves of a double mark, in UTF-8.
 struct Halves {
@@ -37,7 +35,7 @@ constexpr std::size_t kOctetsForTwoHalves = 4;
 constexpr std::size_t kMostOctetsForOne = 3;
 
 bool IsDoubleMark(std::uint32_t code_point) {
-  return code_point == kDoubleTilde || code_point == kDoubleInvertedBreve;
+  return code_point == kDoubleTilde || code_point == kDoubleLigature;
 }
 
 // The start of the character that ends before `end`: of its first octet, or of

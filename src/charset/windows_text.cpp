@@ -4,6 +4,7 @@
 
 #include "charset/marc8_character.h"
 #include "charset/marc_control.h"
+#include "charset/numeric_notation.h"
 #include "charset/substitutes.h"
 #include "charset/utf8_code_point.h"
 #include "record/utf8_marc_record_class.h"
@@ -31,14 +32,7 @@ bool IsDoubleQuotationMark(std::uint32_t code_point) {
   return code_point >= 0x201C && code_point <= 0x201E;
 }
 
-void AppendNotation(std::uint32_t code_point, std::string& out) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  out += "&#x";
-  for (const int shift : {12, 8, 4, 0}) out += kDigits[code_point >> shift & 0x0F];
-  out += ';';
-}
-
-// One character up to U+FFFF, in whichever way MARC-8 text can hold it.
+// One character, in whichever way MARC-8 text can hold it.
 void AppendMarc8(std::uint32_t code_point, std::string& out) {
   Marc8Form form;
   if (!Marc8FormOf(code_point, form)) return AppendNotation(code_point, out);

@@ -117,6 +117,30 @@ TEST(Marc8Character, EveryOctetOfAVariantComesBack) {
   }
 }
 
+TEST(Marc8Character, PlainTextHasItsOwnRuns) {
+  const struct {
+    std::string_view set_in;
+    std::string marc8;
+    std::string utf8;
+  } kCases[] = {
+      {"M",
+       "\xE2"
+       "et\xE2"
+       "e",
+       "e\u0301te\u0301"},
+      {"M", "\xE8\xE5u\xF0", "u\u0304\u0308\u0327"},
+      {"M", "H\033b2\033sO \033gabcg\033s g\033p2", "H\u2082O \u03B1\u03B2\u03B3\u03B3 g\u00B2"},
+      {"M", "a\033(NABC\033sb\033", "a\033(NABCb\033"},
+      {"M", "\xFF\x80&#x266d;&#xZZ;\xE2", "\xFF\x80\u266D&#xZZ;\u0301"},
+      {"V", "m\xC2\xAF", "m\u00B2\u03B1"},
+      {"", "\xB2", "\u00F8"},
+  };
+  for (const auto& test : kCases) {
+    EXPECT_EQ(Utf8CharClass::Marc82Utf8(test.marc8, test.set_in), test.utf8)
+        << testing::PrintToString(test.marc8);
+  }
+}
+
 TEST(Marc8Character, ShortCodesHaveLongOnes) {
   std::string all;
   for (const char* const code : {"1", "2", "3", "4", "5", "6", "7", "8", "9", ":", ";"}) {
