@@ -5,6 +5,7 @@
 
 #include "cli/config_command.h"
 #include "cli/convert_command.h"
+#include "cli/dump_command.h"
 #include "cli/heading_command.h"
 
 namespace cantorel::cli {
@@ -13,6 +14,7 @@ namespace {
 // In the order in which --help lists them.
 constexpr AddCommand kCommands[] = {
     AddConvertCommand,
+    AddDumpCommand,
     AddHeadingCommand,
     AddConfigCommand,
 };

@@ -8,6 +8,10 @@ void AppendReadableField(std::string_view tag, std::string_view indicators, std:
                          std::string& out) {
   out.append(tag).append(" ");
   for (const char indicator : indicators) out += indicator == ' ' ? '_' : indicator;
+  AppendReadableSubfields(text, out);
+}
+
+void AppendReadableSubfields(std::string_view text, std::string& out) {
   for (const Subfield& subfield : SplitSubfields(text)) {
     out.append(" $").append(subfield.code);
     if (!subfield.text.empty()) out.append(" ").append(subfield.text);

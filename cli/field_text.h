@@ -12,6 +12,8 @@ namespace cantorel::cli {
 // written as they are.  `text` is delimiter, code, text of each subfield.
 void AppendReadableField(std::string_view tag, std::string_view indicators, std::string_view text,
                          std::string& out);
+// Appends " $a flute $n 1".
+void AppendReadableSubfields(std::string_view text, std::string& out);
 
 }  // namespace cantorel::cli
 

@@ -21,8 +21,8 @@ constexpr bool IsPrintableAscii(char c) {
 // Octets that cannot be text of a field: line ends, which lay out the XML, and
 // what holds a record together.
 constexpr bool IsNoText(char c) {
-  return c == '\n' || c == '\r' || c == '\0' || c == kDelimiter || c == kEndOfField ||
-         c == kEndOfRecord;
+  return Octet(c) < ' ' && (c == '\n' || c == '\r' || c == '\0' || c == kDelimiter ||
+                            c == kEndOfField || c == kEndOfRecord);
 }
 
 // A leader that lost blanks on its way gets them back; otherwise it is filled up

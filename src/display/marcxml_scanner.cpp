@@ -1,11 +1,13 @@
 #include "display/marcxml_scanner.h"
 
 #include <algorithm>
+#include <array>
+
+#include "charset/utf8.h"
 
 namespace cantorel {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kCdataStart = "<![CDATA[";
 constexpr std::string_view kCdataEnd = "]]>";
 
@@ -16,8 +18,15 @@ struct Aside {
 constexpr Aside kAsides[] = {{"<!--", "-->"}, {kCdataStart, kCdataEnd}, {"<?", "?>"}, {"<!", ">"}};
 
 constexpr bool IsBlank(char c) {
-  return kBlanks.find(c) != std::string_view::npos;
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
+
+// Octets that a tag must be looked at for.
+constexpr std::array<bool, 256> kTagMarks = [] {
+  std::array<bool, 256> marks{};
+  for (const char c : {'<', '>', '"', '\''}) marks[Octet(c)] = true;
+  return marks;
+}();
 
 // The position of the ">" that ends the tag whose name ends at `position`, or of
 // a "<" that shows that it is none; the length of the text when neither comes.
@@ -27,15 +36,16 @@ std::size_t FindTagEnd(std::string_view xml, std::size_t position) {
   char mark = '\0';
   for (std::size_t i = position; i < xml.size(); ++i) {
     const char c = xml[i];
-    if (c == '<') return first < i ? first : i;
+    if (!kTagMarks[Octet(c)]) continue;
+    if (c == '<') return std::min(first, i);
     if (c == '>') {
       if (mark == '\0') return i;
       first = std::min(first, i);
+    } else if (mark == '\0') {
+      mark = c;
     } else if (c == mark) {
       mark = '\0';
       first = xml.size();
-    } else if (mark == '\0' && (c == '"' || c == '\'')) {
-      mark = c;
     }
   }
   return xml.size();
@@ -46,7 +56,7 @@ constexpr bool EndsName(char c) {
 }
 
 void SkipBlanks(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
 }
 
 // What a leaf element may not hold: where one of these begins, it has ended.
@@ -86,6 +96,8 @@ XmlTag XmlTagAt(std::string_view xml, std::size_t position) {
 }
 
 std::size_t XmlAsideLength(std::string_view xml, std::size_t position) {
+  const std::string_view mark = xml.substr(position + 1, 1);
+  if (mark != "!" && mark != "?") return 0;
   for (const Aside& aside : kAsides) {
     if (xml.compare(position, aside.start.size(), aside.start) != 0) continue;
     const std::size_t end = xml.find(aside.end, position + aside.start.size());
@@ -101,7 +113,7 @@ std::string_view XmlAttribute(std::string_view attributes, std::string_view name
     const std::size_t equals = attributes.find('=');
     if (equals == attributes.npos) break;
     std::string_view present = attributes.substr(0, equals);
-    present = present.substr(0, present.find_first_of(kBlanks));
+    while (!present.empty() && IsBlank(present.back())) present.remove_suffix(1);
     attributes.remove_prefix(equals + 1);
     SkipBlanks(attributes);
     if (attributes.empty()) break;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "charset/marc_control.h"
+#include "charset/utf8.h"
 #include "display/marcxml_scanner.h"
 #include "record/utf8_marc_record_class.h"
 
@@ -38,8 +39,8 @@ std::string_view CarriedPositions(char format) {
 // Line ends, which lay out the text that holds the record, and octets that would
 // build fields.
 bool IsNoText(char c) {
-  return c == '\n' || c == '\r' || c == '\0' || c == kDelimiter || c == kEndOfField ||
-         c == kEndOfRecord;
+  return Octet(c) < ' ' && (c == '\n' || c == '\r' || c == '\0' || c == kDelimiter ||
+                            c == kEndOfField || c == kEndOfRecord);
 }
 
 std::string WithoutNoText(std::string_view text) {

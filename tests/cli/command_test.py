@@ -456,6 +456,63 @@ class CommandTest(unittest.TestCase):
         self.check(done, 0)
         self.assertIn(b"$a flute", done.stdout)
 
+    # --- Other forms -------------------------------------------------------------
+
+    def test_records_go_through_marcxml_and_back(self):
+        xml = self.folder / "sample.xml"
+        done = run("dump", "--to", "marcxml", "--output", xml, SAMPLE)
+        self.assertEqual([done.returncode, done.stdout], [0, b""])
+        self.assertIn(b"%d records" % SAMPLE.read_bytes().count(b"\x1d"), done.stderr)
+        self.assertEqual(os.listdir(self.folder), ["sample.xml"])
+        self.assertEqual(run("dump", "--to", "iso2709", xml).stdout, SAMPLE.read_bytes())
+        answers = [self.answers(file) for file in (SAMPLE, xml)]
+        for answer in answers[0] + answers[1]:
+            del answer["source"]
+        self.assertEqual(answers[0], answers[1])
+
+    def test_dump_says_what_marcxml_has_no_form_for(self):
+        odd = image(("245", b"|1Lost \x1fa<\xff\x02>\x1f\x1f\xc3\xa9\x1f x"), ("0=0", b"  \x1fax"),
+                    ("500", b"  \x1f"), ("001", b"odd"))
+        done = run("dump", "--to", "marcxml", self.file("odd.mrc", odd[:8] + b"?" + odd[9:]))
+        self.assertEqual(done.returncode, 1)
+        self.assertIn(
+            b'<marc:controlfield tag="001">odd</marc:controlfield>\r\n'
+            b'<marc:datafield tag="245" ind1=" " ind2="1">'
+            b'\t\t<marc:subfield code="a">Lost </marc:subfield>\r\n'
+            b'\t\t<marc:subfield code="a">&lt;\xef\xbf\xbd&gt;</marc:subfield>\r\n'
+            b'\t\t<marc:subfield code="?">\xc3\xa9</marc:subfield>\r\n'
+            b'\t\t<marc:subfield code="?">x</marc:subfield>\r\n'
+            b'</marc:datafield>\r\n</marc:record>', done.stdout)
+        said = [line.split(": ", 3)[3] for line in done.stderr.decode().splitlines()]
+        leader = odd[:24].decode()
+        self.assertEqual(said, [
+            f'leader: "{leader[:8]}?{leader[9:]}" became "{leader}"',
+            '245: indicator "|" became blank',
+            "245: text ahead of the subfields became $a",
+            "245: a delimiter without code was left out",
+            "245: text without code became $?",
+            '245: code " " became $?',
+            "245: 2 characters were no UTF-8 or not allowed in XML",
+            "0=0: a field with this tag cannot be written and was left out",
+            "500: a field without text was left out"])
+
+    def test_dump_as_text(self):
+        ansel = image(("001", b"flute"), ("245", b"0 \x1faCaf\xe2e"), ("500", b"ab"))
+        done = run("dump", stdin=FLUTE + ansel[:9] + b" " + ansel[10:] + b"cut")
+        self.check(done, 1, "-: record 3 at offset ", "Too short")
+        self.assertEqual(done.stdout.decode().split("\n\n")[1].splitlines()[1:],
+                         ["001 flute", "245 0_ $a Cafe\u0301", "500 ab"])
+
+    def test_a_failed_dump_leaves_the_file_that_was_there(self):
+        kept = self.file("kept.mrc", b"kept")
+        self.check(run("dump", "--output", kept, SAMPLE), 3, "kept.mrc", "--force")
+        script = 'ulimit -f 4; trap "" XFSZ; "$0" dump --to iso2709 --force --output "$2" "$1"'
+        many = self.file("many.mrc", FLUTE * 2000)
+        done = subprocess.run(["bash", "-c", script, COMMAND, many, kept], stderr=subprocess.PIPE)
+        self.check(done, 3, "cannot write", "kept.mrc")
+        self.assertEqual(kept.read_bytes(), b"kept")
+        self.assertEqual(sorted(os.listdir(self.folder)), ["kept.mrc", "many.mrc"])
+
     def test_output_that_takes_no_more(self):
         many = self.file("many.mrc", FLUTE * 2000)
         with open("/dev/full", "wb") as full:

@@ -126,6 +126,24 @@ TEST(XmlRecordOut, WritesWhatXmlRecordInReads) {
   for (const std::int16_t mode : {-1, 1, 5, 6}) EXPECT_EQ(record.XMLRecordOut(mode), "");
 }
 
+TEST(XmlRecordOut, LeavesARecordInItsCharacterSet) {
+  Utf8MarcRecordClass record;
+  record.CharacterSetOut("M");
+  record.NewRecord("c", "m");
+  record.CharacterSetIn("M");
+  record.FldAdd("500", "  ",
+                "\x1F"
+                "aCaf\xE2"
+                "e");
+  EXPECT_THAT(record.XMLRecordOut(0), testing::HasSubstr("Cafe\xCC\x81<"));
+  EXPECT_EQ(record.CharacterSetOut(), "M");
+  record.FldFindFirst("500", "");
+  EXPECT_EQ(record.FldText(),
+            "\x1F"
+            "aCaf\xE2"
+            "e");
+}
+
 TEST(XmlText, IsTaggedAndQuoted) {
   EXPECT_EQ(Utf8MarcRecordClass::XmlConditionText("<a&b>'\"\xFF"),
             "&lt;a&amp;b&gt;&apos;&quot;\xFF");
