@@ -8,60 +8,36 @@
 #include "charset/substitutes.h"
 #include "charset/utf8.h"
 #include "charset/utf8_char_class.h"
-#include "charset/utf8_code_point.h"
 #include "record/utf8_marc_record_class.h"
 
 namespace cantorel {
 namespace {
 
-// A code point's octets and, behind it, those of what stands for it.
-std::string Octets(std::u32string_view characters) {
-  std::string octets;
-  for (const char32_t c : characters) AppendUtf8(c, octets);
-  return octets;
+// What stands for each of the characters, in brackets; those without stay.
+std::string Replaced(std::string_view characters) {
+  std::string all;
+  for (std::size_t i = 0; i < characters.size();) {
+    const std::string_view character = Utf8CharAt(characters, i);
+    i += character.size();
+    std::string replacement;
+    const bool found = Utf8CharClass::SubstituteUtf8Char(character, replacement);
+    all += found ? "[" + replacement + "]" : replacement;
+  }
+  return all;
 }
 
 TEST(Substitutes, StandForACharacterOrDoNot) {
-  const struct {
-    std::u32string_view character;
-    std::u32string_view substitute;  // the same: there is none
-  } kCases[] = {
-      {U"\u00E9", U"e\u0301"},
-      {U"\u1EA5", U"a\u0302\u0301"},
-      {U"\u1E69", U"s\u0323\u0307"},
-      {U"\u01FD", U"\u00E6\u0301"},
-      {U"\u1E9B", U"\u017F\u0307"},
-      {U"\u1E0F", U"d\u0332"},  // the line below is the underscore
-      {U"\u0149", U"\u02BCn"},
-      {U"\u0439", U"\u0438\u0306"},
-      {U"\u0451", U"\u0451"},
-      {U"\u01A1", U"\u01A1"},  // horn, comma below, double grave
-      {U"\u1EDB", U"\u1EDB"},
-      {U"\u0219", U"\u0219"},
-      {U"\u0200", U"\u0200"},
-      {U"\u00C6", U"\u00C6"},
-      {U"\u00A0", U" "},
-      {U"\u00AD", U""},
-      {U"\u00BD", U" 1/2 "},
-      {U"\u2015", U"--"},
-      {U"\u201B", U"'"},
-      {U"\u201C", U"\u201C"},
-      {U"\u2026", U"..."},
-      {U"\u2122", U"[TM]"},
-      {U"\u212B", U"\u212B"},
-      {U"\uE930", U"\u4E99"},
-      {U"\uEA03", U"\U00022C4D"},
-      {U"\uE8B1", U"\uE8B1"},  // once a Hangul letter
-      {U"A", U"A"},
-  };
-  for (const auto& test : kCases) {
-    const std::string octets = Octets(test.character);
-    std::string replacement;
-    EXPECT_EQ(Utf8CharClass::SubstituteUtf8Char(octets, replacement),
-              test.character != test.substitute)
-        << testing::PrintToString(octets);
-    EXPECT_EQ(replacement, Octets(test.substitute)) << testing::PrintToString(octets);
+  EXPECT_EQ(
+      Replaced("\u00E9\u1EA5\u1E69\u01FD\u1E9B\u0149\u0439"),
+      "[e\u0301][a\u0302\u0301][s\u0323\u0307][\u00E6\u0301][\u017F\u0307][\u02BCn][\u0438\u0306]");
+  EXPECT_EQ(Replaced("\u1E0F"), "[d\u0332]") << "the line below is the underscore";
+  for (const char* const kept : {"\u01A1", "\u1EDB", "\u0219", "\u0200"}) {
+    EXPECT_EQ(Replaced(kept), kept) << "horn, comma below, double grave";
   }
+  EXPECT_EQ(Replaced("A\u0451\u00C6\u212B\u201C\uE8B1"), "A\u0451\u00C6\u212B\u201C\uE8B1");
+  EXPECT_EQ(Replaced("\u00A0\u00AD\u00BD\u2010\u2015\u201B\u2026\u2122"),
+            "[ ][][ 1/2 ][-][--]['][...][[TM]]");
+  EXPECT_EQ(Replaced("\uE930\uEA03"), "[\u4E99][\U00022C4D]");
 }
 
 TEST(Substitutes, PrivateIdeographsAreAllThere) {
@@ -75,77 +51,46 @@ TEST(Substitutes, PrivateIdeographsAreAllThere) {
 
 TEST(Decomposition, TakesTextApart) {
   const struct {
-    std::string_view text;
-    std::string_view decomposed;
+    std::string text, decomposed;
   } kCases[] = {
       {"", ""},
-      {"plain  text", "plain  text"},
-      {"e\xCC\x81  a", "e\xCC\x81  a"},
-      {"Dvo\xC5\x99\xC3\xA1k",
-       "Dvor\xCC\x8C"
-       "a\xCC\x81k"},
-      {"1  2\xC2\xBD in", "1 2 1/2 in"},  // a changed text has its blanks closed up
+      {"e\u0301  a", "e\u0301  a"},
+      {"Dvo\u0159\u00E1k", "Dvor\u030Ca\u0301k"},
+      {"1  2\u00BD in", "1 2 1/2 in"},  // a changed text has its blanks closed up
       // The quotation mark before ASCII, before a letter that is replaced by it,
       // at the end; not before another script.
-      {"\xE2\x80\x9C"
-       "a\xE2\x80\x9D",
-       "\"a\""},
-      {"\xE2\x80\x9C\xC3\x89", "\"E\xCC\x81"},
-      {"\xE2\x80\x9C\xD0\x92\xE2\x80\x9D", "\xE2\x80\x9C\xD0\x92\""},
-      {"\xE2\x80\x9C\xD0\x92", "\xE2\x80\x9C\xD0\x92"},
+      {"\u201Ca\u201D", "\"a\""},
+      {"\u201C\u00C9", "\"E\u0301"},
+      {"\u201C\u0412\u201D", "\u201C\u0412\""},
       // Double marks become halves about the next character.
-      {"t\xCD\xA1sa",
-       "t\xEF\xB8\xA0s\xEF\xB8\xA1"
-       "a"},
-      {"n\xCD\xA0\xC3\xA9",
-       "n\xEF\xB8\xA2"
-       "e\xEF\xB8\xA3\xCC\x81"},
-      {"t\xCD\xA1s", "t\xEF\xB8\xA0s"},
-      {"t\xCD\xA1", "t\xEF\xB8\xA0"},
-      {"t\xCD\xA1\x1F"
-       "bx",
-       "t\xEF\xB8\xA0\x1F"
-       "bx"},
+      {"t\u0361sa", "t\uFE20s\uFE21a"},
+      {"n\u0360\u00E9", "n\uFE22e\uFE23\u0301"},
+      {"t\u0361s", "t\uFE20s"},
+      {"t\u0361\037bx", "t\uFE20\037bx"},
       // Octets that are no character stay.
-      {"\x80\x81\xC3\xA9\xE2\x80",
+      {"\x80\x81\u00E9\xE2\x80",
        "\x80\x81"
-       "e\xCC\x81\xE2\x80"},
-      {"\xC3\xC3\xA9\xA9x", "\xC3\xC3\xA9\xA9x"},
+       "e\u0301\xE2\x80"},
+      {"\xC3\u00E9\xA9x", "\xC3\u00E9\xA9x"},
   };
   Utf8MarcRecordClass record;
   for (const auto& test : kCases) {
     bool changed = false;
-    EXPECT_EQ(record.DecomposeUnicodeCharactersInString(test.text, changed), test.decomposed)
-        << testing::PrintToString(test.text);
-    EXPECT_EQ(changed, test.text != test.decomposed) << testing::PrintToString(test.text);
+    EXPECT_EQ(record.DecomposeUnicodeCharactersInString(test.text, changed), test.decomposed);
+    EXPECT_EQ(changed, test.text != test.decomposed) << test.text;
   }
 }
 
 TEST(WindowsText, BecomesMarcEight) {
-  const struct {
-    std::string_view windows;
-    std::string_view marc8;
-  } kCases[] = {
-      {"\x1F"
-       "aplain",
-       "\x1F"
-       "aplain"},
-      {"\xE9t\xE9",
-       "\xE2"
-       "et\xE2"
-       "e"},
-      {"\x93"
-       "a\x94\x85\x96\x99",
-       "\"a\"...-[TM]"},
-      {"\x80\xDF\x9C\xA0.", "\xC8\xC7\xB6 ."},
-      {"m\xB2", "m\x1Bp2\x1Bs"},
-      {"\xAB", "\x1B(S0\x1B(B"},
-      {"\x95\x81", "&#x2022;&#x0081;"},
+  const auto marc8 = [](std::string_view windows) {
+    return Utf8MarcRecordClass::MsoftAscii2Marc(windows, "L2M");
   };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(Utf8MarcRecordClass::MsoftAscii2Marc(test.windows, "L2M"), test.marc8)
-        << testing::PrintToString(test.windows);
-  }
+  EXPECT_EQ(marc8("\037aplain \x93\xE9t\xE9\x94\x85\x96\x99"),
+            "\037aplain \"\xE2"
+            "et\xE2"
+            "e\"...-[TM]");
+  EXPECT_EQ(marc8("\x80\xDF\x9C\xA0.m\xB2\xAB"), "\xC8\xC7\xB6 .m\033p2\033s\033(S0\033(B");
+  EXPECT_EQ(marc8("\x95\x81"), "&#x2022;&#x0081;");
 }
 
 }  // namespace

@@ -29,80 +29,58 @@ std::string Outward(std::string_view set_out, std::string_view octets) {
   return error ? "!" + code + marc8 : code + marc8;
 }
 
-TEST(Marc8Character, ReadsAnOctetByItsDesignation) {
+// A high octet never becomes a delimiter or another control.
+TEST(Marc8Character, ReadsOctetsByTheirDesignation) {
   const struct {
-    std::string_view set_in;
-    std::string_view code;
-    std::string_view octets;
-    std::string_view utf8;  // "!": an error
+    std::string_view set_in, code;
+    std::string octets;  // each by itself
+    std::string utf8;    // "!": an error
   } kCases[] = {
-      {"M", "s", "e", "e"},
-      {"M", "1", "\xE2", "\xCC\x81"},
-      {"M", "(!E", "\x62", "\xCC\x81"},
-      {"M", ")!E", "\xE2", "\xCC\x81"},
-      {"M", "(N", "\x41", "\xD0\xB0"},
-      {"M", ")N", "\xC1", "\xD0\xB0"},
-      {"M", "(Q", "\x44", "\xD1\x91"},
-      {"M", ")Q", "\xC4", "\xD1\x91"},
-      {"M", "(Q", " ", " "},
-      {"M", "(4", "\x21", "\xDB\xBD"},
-      {"M", ")2", "\xE0", "\xD7\x90"},
-      {"M", ")3", "\x9F", "!"},  // never a delimiter out of a high octet
-      {"M", ")S", "\xA0", "!"},
-      {"M", "g", "c", "\xCE\xB3"},
-      {"M", "$1", "!3Q", "\xE5\x88\x83"},
-      {"M", "9", " ", " "},
-      {"M", "$1", "!3", "!"},
-      {"M", "$1", "!!!", "!"},
-      {"M", "s", "ab", "!"},
-      {"M", "s", "", "!"},
+      {"M", "s", "e\x1F\xE2\xC8\xEB\xEC\xFA\xFB\xFF", "e\x1F\u0301\u20AC\uFE20\uFE21\uFE22\uFE23!"},
+      {"M", "3", "(A", "\u208DA"},
+      {"M", "5", "-\\", "\u05BE\\"},
+      {"M", "(3", ",\x1F", "\u060C\x1F"},
+      {"M", "(S", "A\xC1", "\u0391!"},
+      {"O", "1", "\xBE\xC8", "\u2113\u20AC"},
+      {"V", "(B", "\xA0\xAF\xC8\x91", "\u2113\u03B1\u2078!"},
+      {"M", "(!E", "\x62", "\u0301"},
+      {"M", ")!E", "\xE2", "\u0301"},
+      {"M", "(N", "\x41", "\u0430"},
+      {"V", ")N", "\xC1\xA0", "\u0430!"},
+      {"M", "(Q", "\x44 ", "\u0451 "},
+      {"M", ")Q", "\xC4", "\u0451"},
+      {"M", ")2", "\xE0", "\u05D0"},
+      {"M", ")3", "\x9F\xFF", "!!"},
+      {"M", "g", "cx", "\u03B3x"},
+      {"M", "9", " A", " !"},
       {"M", "(Z", "A", "!"},
-      {"M", "", "A", "!"},
-      {"M", "s", "\xFF", "!"},
-      {"M", "s", "\xBE", "!"},
-      {"O", "s", "\xBE", "\xE2\x84\x93"},
-      {"O", "s", "\xC1", "\xE2\x84\x93"},
-      {"V", "s", "\xA0", "\xE2\x84\x93"},
-      {"V", "s", "\xAF", "\xCE\xB1"},
-      {"V", "s", "\xC5", "\xE2\x81\xB5"},
-      {"V", "s", "\xC8", "\xE2\x81\xB8"},
-      {"M", "s", "\xC8", "\xE2\x82\xAC"},
-      {"V", ")N", "\xC1", "\xD0\xB0"},
   };
   for (const auto& test : kCases) {
-    EXPECT_EQ(Inward(test.set_in, test.code, test.octets), test.utf8)
-        << test.set_in << test.code << testing::PrintToString(test.octets);
+    std::string utf8;
+    for (const char octet : test.octets) utf8 += Inward(test.set_in, test.code, {&octet, 1});
+    EXPECT_EQ(utf8, test.utf8) << test.set_in << test.code;
   }
+  EXPECT_EQ(Inward("M", "$1", "!3Q"), "\u5203");
+  for (const char* const octets : {"!3", "!!!", "!3Q!"}) EXPECT_EQ(Inward("M", "$1", octets), "!");
+  for (const char* const octets : {"", "ab"}) EXPECT_EQ(Inward("M", "s", octets), "!");
 }
 
-TEST(Marc8Character, WritesACharacterForItsVariant) {
-  const struct {
-    std::string_view set_out;
-    std::string_view utf8;
-    std::string_view answer;  // "!": an error
-  } kCases[] = {
-      {"M", "A", "1A"},
-      {"M", "\x1F", "1\x1F"},
-      {"M", "\xE2\x84\x93", "1\xC1"},
-      {"O", "\xE2\x84\x93", "1\xBE"},
-      {"V", "\xE2\x84\x93", "1\xA0"},
-      {"M", "\xE2\x81\xB0", "40"},
-      {"V", "\xE2\x81\xB0", "1\xC0"},
-      {"V", "\xC2\xA9", "1\x93"},
-      {"O", "\xC2\xA9", "1\xC3"},
-      {"V", "\xC3\x9F", "!"},  // C7 is superscript seven there
-      {"M", "\xC3\x9F", "1\xC7"},
-      {"M", "\xE5\x88\x83", "9!3Q"},
-      {"M", "\xC3\xA9", "!"},
-      {"M", "\xE2\x80\x8F", "!"},
-      {"M", "\xE2\x80\x8D", "1\x8D"},
-      {"M", "\x80", "!"},
-      {"M", "", "!"},
-  };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(Outward(test.set_out, test.utf8), test.answer)
-        << test.set_out << testing::PrintToString(test.utf8);
+// The octet of the sharp s is superscript seven in "V".
+TEST(Marc8Character, WritesCharactersForTheirVariant) {
+  std::string written;
+  for (const char* const letter : {"M", "O", "V"}) {
+    for (const char* const character : {"A", "\x1F", "\u2113", "\u2070", "\u00A9", "\u00DF"}) {
+      written += Outward(letter, character) + " ";
+    }
   }
+  EXPECT_EQ(written,
+            "1A 1\x1F 1\xC1 40 1\xC3 1\xC7 "
+            "1A 1\x1F 1\xBE 40 1\xC3 1\xC7 "
+            "1A 1\x1F 1\xA0 1\xC0 1\x93 ! ");
+  EXPECT_EQ(Outward("M", "\u5203"), "9!3Q");
+  EXPECT_EQ(Outward("M", "\u200D"), "1\x8D");
+  for (const char* const none : {"", "\x80", "\u00E9", "\u200F"})
+    EXPECT_EQ(Outward("M", none), "!");
 }
 
 TEST(Marc8Character, EveryOctetOfAVariantComesBack) {
@@ -155,19 +133,15 @@ TEST(Marc8Character, ShortCodesHaveLongOnes) {
 TEST(Marc8Character, BecomesTheCurrentOneOnTheUtf8SideAlone) {
   Utf8CharClass c;
   c.Utf8Char("A");
-  const struct {
-    std::string_view marc8;
-    std::string_view utf8;
-  } kCases[] = {
-      {"\xE2", "\xCC\x81"},     {"Ms\xE9", "\xCC\x8C"},   {"V1\xA0", "\xE2\x84\x93"},
-      {"M(N\x41", "\xD0\xB0"},  {"M(!E\x62", "\xCC\x81"}, {"M$1!3Q", "\xE5\x88\x83"},
-      {"\xFF", "\xE5\x88\x83"}, {"M(", "\xE5\x88\x83"},   {"M(N", "\xE5\x88\x83"},
-  };
-  for (const auto& test : kCases) {
-    c.Marc8Char(test.marc8);
-    EXPECT_EQ(c.Utf8Char(), test.utf8) << testing::PrintToString(test.marc8);
-    EXPECT_EQ(c.UcsHex(), "0041");
+  std::string taken;
+  for (const char* const marc8 : {"\xE2", "Ms\xE9", "V1\xA0", "M(N\x41", "M(!E\x62", "M$1!3Q"}) {
+    c.Marc8Char(marc8);
+    taken += c.Utf8Char();
   }
+  EXPECT_EQ(taken, "\u0301\u030C\u2113\u0430\u0301\u5203");
+  for (const char* const none : {"\xFF", "M(", "M(N"}) c.Marc8Char(none);
+  EXPECT_EQ(c.Utf8Char(), "\u5203");
+  EXPECT_EQ(c.UcsHex(), "0041");
 }
 
 }  // namespace

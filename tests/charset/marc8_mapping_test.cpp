@@ -7,8 +7,6 @@
 namespace cantorel {
 namespace {
 
-using namespace std::string_view_literals;
-
 constexpr std::string_view kSingleOctetSets = "12345678:;";
 
 Marc8Set SetOf(char short_code) {
@@ -20,27 +18,6 @@ std::uint32_t UcsOfForm(const Marc8Form& form) {
   for (const char octet : form.Octets()) code = code << 8 | Octet(octet);
   return form.set == Marc8Set::kEacc ? UcsOfEacc(code)
                                      : UcsOfMarc8(form.set, static_cast<unsigned char>(code));
-}
-
-TEST(Marc8Mapping, GivesTheCharacterOfAnOctet) {
-  const struct {
-    char set;
-    unsigned char octet;
-    std::uint32_t code_point;
-  } kCases[] = {
-      {'1', 0xE2, 0x0301},       {'1', 0xEB, 0xFE20},       {'1', 0xEC, 0xFE21},
-      {'1', 0xFA, 0xFE22},       {'1', 0xFB, 0xFE23},       {'1', 0xAF, kNoCodePoint},
-      {'1', 0x00, 0x0000},       {'2', 'c', 0x03B3},        {'2', 'd', 'd'},
-      {'3', '(', 0x208D},        {'4', '1', 0x00B9},        {'5', 0x2D, 0x05BE},
-      {'5', 0x5C, 0x5C},         {'6', 0x40, 0x044E},       {'7', 0x2C, 0x060C},
-      {'8', 0x41, 0x0391},       {'8', 0xC1, kNoCodePoint}, {':', 0xEF, 0x042A},
-      {':', 0x41, 0x41},         {';', 0xA1, 0x06FD},       {'7', 0x1F, 0x1F},
-      {'9', 0x21, kNoCodePoint},
-  };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(UcsOfMarc8(SetOf(test.set), test.octet), test.code_point)
-        << test.set << ' ' << int{test.octet};
-  }
 }
 
 TEST(Marc8Mapping, HasAllEaccCodesAndEachCharacterComesBack) {
