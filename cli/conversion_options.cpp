@@ -11,11 +11,8 @@
 namespace cantorel::cli {
 namespace {
 
-// The value of MusicClassOperatingMode by which the user is asked.
-constexpr std::int32_t kAsk = 2;
-
 const std::map<std::string, std::int32_t> kModes = {{"382", 1}, {"655", 2}, {"all", 3}};
-const std::map<std::string, std::int32_t> kCanons = {{"message", 0}, {"assign", 1}, {"ask", kAsk}};
+const std::map<std::string, std::int32_t> kCanons = {{"message", 0}, {"assign", 1}, {"ask", 2}};
 
 }  // namespace
 
@@ -31,17 +28,22 @@ void AddConversionOptions(CLI::App& command, ConversionOptions& options) {
 
 bool Converter::Prepare(const ConversionOptions& options, Lookups& lookups) {
   if (!Configure(component_, options.configuration_folder)) return false;
-  if (options.canons == kAsk && !selector_.HasTerminal()) {
+  if (options.AskUser() && !selector_.HasTerminal()) {
     std::fprintf(stderr, "cantorel: --canons ask needs a terminal to ask in, and there is none\n");
     return false;
   }
   component_.MusicClassOperatingMode(options.canons);
   component_.SelectFieldsWith(&selector_);
-  http_get_ = lookups.Client();
-  component_.LookUpWith(http_get_.get());
+  client_ = lookups.MakeClient();
+  component_.LookUpWith(client_.get());
   component_.LinkedDataUrl(options.lookups.linked_data_url);
   component_.PermalinkUrl(options.lookups.permalink_url);
   return true;
+}
+
+void Converter::StopLookups() {
+  component_.LookUpWith(nullptr);
+  client_.reset();
 }
 
 }  // namespace cantorel::cli

@@ -23,6 +23,8 @@ struct ConversionOptions {
   std::int32_t mode = 3;             // as AddFields takes it: 1 382, 2 655, 3 both
   std::int32_t canons = 0;           // MusicClassOperatingMode: 0 message, 1 assign, 2 ask
   LookupOptions lookups;
+
+  bool AskUser() const { return canons == 2; }
 };
 
 // `options` must live until the line is parsed.
@@ -37,10 +39,14 @@ class Converter {
 
   CantorelClass& Component() { return component_; }
 
+  // Whether a look-up got no answer.
+  bool LookupFailed() const { return client_ != nullptr && client_->HasFailed(); }
+  void StopLookups();
+
  private:
   CantorelClass component_;
   TerminalSelector selector_;
-  std::unique_ptr<HttpGet> http_get_;
+  std::unique_ptr<Lookups::Client> client_;
 };
 
 }  // namespace cantorel::cli

@@ -1,18 +1,20 @@
 #include "cli/convert_command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "cli/common_options.h"
-#include "cli/conversion_item.h"
+#include "cli/conversion_run.h"
 #include "cli/convert_options.h"
-#include "cli/item_converter.h"
-#include "cli/item_reader.h"
 #include "cli/output.h"
 #include "cli/result_writer.h"
+#include "service/service_objects.h"
 
 namespace cantorel::cli {
 namespace {
@@ -31,6 +33,9 @@ struct Call {
 const char* Objection(const Call& call) {
   const ConvertOptions& options = call.options;
   const bool writes = !options.output.empty();
+  if (options.conversion.AskUser() && options.jobs > 1) {
+    return "--canons ask goes with --jobs 1 only: one question at a time";
+  }
   if (call.in_place) {
     return "--in-place is not done: write another file with --output, and keep this one";
   }
@@ -49,6 +54,33 @@ const char* Objection(const Call& call) {
   return call.names_format ? "--format does not go with --output -" : nullptr;
 }
 
+std::size_t ThreadsFor(const ConvertOptions& options) {
+  if (options.conversion.AskUser()) return 1;
+  if (options.jobs > 0) return options.jobs;
+  return std::max(1U, std::thread::hardware_concurrency());
+}
+
+// Says what is wrong with the configuration folder before any thread or file is
+// made.
+bool CanConvert(const ConvertOptions& options, Lookups& lookups) {
+  const bool prepared = Converter().Prepare(options.conversion, lookups);
+  ReleaseServiceObjects();
+  return prepared;
+}
+
+ExitStatus ConvertFiles(const ConvertOptions& options) {
+  Lookups lookups(options.conversion.lookups);
+  if (!lookups.Prepare() || !CanConvert(options, lookups)) return kWrongCall;
+  auto writer = std::make_unique<ResultWriter>(options);
+  if (!writer->Open()) return kInputOutputFailed;
+
+  ConversionRun run(options, lookups);
+  if (run.WriteAll(*writer)) return writer->Finish() ? writer->Status() : kInputOutputFailed;
+  writer.reset();
+  // Threads may be waiting for input that never comes, and nobody needs them.
+  std::_Exit(kInputOutputFailed);
+}
+
 ExitStatus RunConvert(Call& call) {
   if (const char* const objection = Objection(call)) {
     std::fprintf(stderr, "cantorel: %s\n", objection);
@@ -60,21 +92,8 @@ ExitStatus RunConvert(Call& call) {
   options.lists_answers = options.result == Result::kAnswers || call.names_format;
   options.colours = OutputTakesColours();
 
-  Lookups lookups(options.conversion.lookups);
-  Converter component;
-  if (!lookups.Prepare() || !component.Prepare(options.conversion, lookups)) return kWrongCall;
-  ItemReader reader(options.files, options.lines);
-  ItemConverter converter(component.Component(), options);
-  ResultWriter writer(options);
-  if (!writer.Open()) return kInputOutputFailed;
-
-  ConversionItem item;
-  ConversionResult result;
-  while (reader.Next(item)) {
-    if (item.read_error.empty()) converter.Convert(item, result);
-    if (!writer.Write(item, result)) return kInputOutputFailed;
-  }
-  return writer.Finish() ? writer.Status() : kInputOutputFailed;
+  options.jobs = ThreadsFor(options);
+  return ConvertFiles(options);
 }
 
 void AddOutputOptions(CLI::App& command, Call& call) {
@@ -109,6 +128,12 @@ void AddConvertCommand(CLI::App& app, Action& action) {
   AddChoice(*command, "--format", options.format, kFormats, "Form of the answers");
   command->add_flag("--lines", options.lines,
                     "Read field lines, with $ as delimiter and a blank line between records");
+  command
+      ->add_option("--jobs", options.jobs,
+                   "How many threads convert; the answers do not depend on it (default: one for "
+                   "each core)")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1024));
   AddOutputOptions(*command, *call);
   AddFileArguments(*command, options.files);
   command->callback([&action, call, command] {

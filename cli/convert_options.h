@@ -3,6 +3,7 @@
 #ifndef CANTOREL_CLI_CONVERT_OPTIONS_H_
 #define CANTOREL_CLI_CONVERT_OPTIONS_H_
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct ConvertOptions {
   bool lists_answers = true;
   bool colours = false;  // of the differences
   bool lines = false;
+  std::size_t jobs = 0;  // threads that convert; 0: as many as the machine has cores
   std::string output;
   std::string rejects;  // empty: a name made of that of the output
   bool only_changed = false;

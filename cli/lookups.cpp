@@ -73,7 +73,7 @@ void AddLookupOptions(CLI::App& command, LookupOptions& options) {
 
 // --- Clients -------------------------------------------------------------------
 
-class Lookups::ThreadClient : public HttpGet {
+class Lookups::ThreadClient : public Client {
  public:
   ThreadClient(Lookups& shared, std::unique_ptr<HttpGet> http)
       : shared_(shared), http_(std::move(http)) {}
@@ -83,12 +83,15 @@ class Lookups::ThreadClient : public HttpGet {
     if (cache != nullptr && cache->Find(url, answer)) return true;
     shared_.limiter_.Wait();
     if (!http_->Get(url, user_agent, answer)) {
+      has_failed_ = true;
       SayFailure(url, answer.fault);
       return false;
     }
     if (cache != nullptr && IsLasting(answer)) cache->Keep(url, answer);
     return true;
   }
+
+  bool HasFailed() const override { return has_failed_; }
 
  private:
   void SayFailure(const std::string& url, const std::string& fault) {
@@ -99,6 +102,7 @@ class Lookups::ThreadClient : public HttpGet {
 
   Lookups& shared_;
   const std::unique_ptr<HttpGet> http_;
+  bool has_failed_ = false;
 };
 
 Lookups::Lookups(const LookupOptions& options)
@@ -114,7 +118,7 @@ bool Lookups::Prepare() {
   return false;
 }
 
-std::unique_ptr<HttpGet> Lookups::Client() {
+std::unique_ptr<Lookups::Client> Lookups::MakeClient() {
   if (options_.offline) return nullptr;
   std::unique_ptr<HttpGet> http = MakeHttpGet(LimitsFor(options_.timeout_seconds));
   if (http == nullptr) return nullptr;

@@ -40,6 +40,13 @@ class Lookups {
   // False, with a line on standard error, when the cache cannot be used.
   bool Prepare();
 
+  // A client of one thread.
+  class Client : public HttpGet {
+   public:
+    // Whether a request got no answer.
+    virtual bool HasFailed() const = 0;
+  };
+
   // A client for one thread; null when nothing is to be asked.  It must not
   // outlive this object.
   //
@@ -47,7 +54,7 @@ class Lookups {
   // for its turn and asks; what was found or is not there is kept in the cache,
   // while failures and faults of the service are not.  The first failure is said
   // on standard error.
-  std::unique_ptr<HttpGet> Client();
+  std::unique_ptr<Client> MakeClient();
 
  private:
   class ThreadClient;

@@ -37,7 +37,7 @@ class LookupsTest : public ::testing::Test {
     Lookups lookups(options_);
     std::vector<std::string> answers;
     if (!lookups.Prepare()) return answers;
-    const std::unique_ptr<HttpGet> client = lookups.Client();
+    const std::unique_ptr<Lookups::Client> client = lookups.MakeClient();
     for (const std::string& path : paths) {
       HttpAnswer answer;
       const bool answered = client->Get(server_.Url() + path, "agent/1", answer);
@@ -134,7 +134,7 @@ TEST_F(LookupsTest, AsksNothingOffline) {
   options_.offline = true;
   Lookups lookups(options_);
   EXPECT_TRUE(lookups.Prepare());
-  EXPECT_EQ(lookups.Client(), nullptr);
+  EXPECT_EQ(lookups.MakeClient(), nullptr);
   EXPECT_FALSE(fs::exists(options_.cache_file));
 }
 
