@@ -21,6 +21,9 @@ using Action = std::function<ExitStatus()>;
 // the file that carries it out; command_line.cpp lists them.
 using AddCommand = void (*)(CLI::App& app, Action& action);
 
+// Declares the whole command line on a fresh App.
+void DeclareCommandLine(CLI::App& app, Action& action);
+
 // Reads the command line.  True when there is something to do; otherwise the
 // program is to end with `status`, help or an error having been written.
 bool ParseCommandLine(int argc, const char* const* argv, Action& action, int& status);

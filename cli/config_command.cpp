@@ -72,10 +72,12 @@ ExitStatus RunConfigCheck(std::string folder) {
 
 // A command below "config" that works on a configuration folder.
 void AddFolderCommand(CLI::App& config, const std::string& name, const std::string& help,
-                      ExitStatus (*run)(std::string folder), Action& action) {
+                      const Example& example, ExitStatus (*run)(std::string folder),
+                      Action& action) {
   CLI::App* const command = config.add_subcommand(name, help);
   const auto folder = std::make_shared<std::string>();
   AddFolderOption(*command, *folder);
+  AddExamples(*command, {example});
   command->callback([&action, run, folder] { action = [run, folder] { return run(*folder); }; });
 }
 
@@ -87,9 +89,12 @@ void AddInitCommand(CLI::App& config, Action& action) {
     bool replace = false;
   };
   const auto call = std::make_shared<Call>();
-  command->add_option("DIR", call->folder, "Folder to make, or an empty one")->required();
+  command->add_option("DIR", call->folder, "Folder to make, or an empty one")
+      ->type_name("")
+      ->required();
   command->add_flag("--force", call->replace,
                     "Also when DIR is not empty: replace the files that the program brings");
+  AddExamples(*command, {{"cantorel config init ~/music-tables", "tables of one's own to change"}});
   command->callback(
       [&action, call] { action = [call] { return RunConfigInit(call->folder, call->replace); }; });
 }
@@ -101,12 +106,14 @@ void AddConfigCommand(CLI::App& app, Action& action) {
       app.add_subcommand("config", "Make, build and check a configuration folder");
   config->require_subcommand(1);
   AddInitCommand(*config, action);
-  AddFolderCommand(*config, "build",
-                   "Make the derivation table from its workbook, and say what each sheet gave",
-                   RunConfigBuild, action);
-  AddFolderCommand(*config, "check",
-                   "List what a maintainer of vocabulary, table and workbook should look at",
-                   RunConfigCheck, action);
+  AddFolderCommand(
+      *config, "build", "Make the derivation table from its workbook, and say what each sheet gave",
+      {"cantorel config build --config ~/music-tables", "after a change of the workbook"},
+      RunConfigBuild, action);
+  AddFolderCommand(
+      *config, "check", "List what a maintainer of vocabulary, table and workbook should look at",
+      {"cantorel config check --config ~/music-tables", "status 1 when there is something"},
+      RunConfigCheck, action);
 }
 
 }  // namespace cantorel::cli

@@ -36,7 +36,10 @@ std::string FolderOfProgram() {
     if (FileExists((folder / kVocabularyFileName).string()))
       return folder.lexically_normal().string();
   }
-  return {};
+  // Where the system does not tell where the program stands.
+  return FileExists((fs::path(CANTOREL_INSTALLED_CONFIG) / kVocabularyFileName).string())
+             ? CANTOREL_INSTALLED_CONFIG
+             : std::string();
 }
 
 bool FindFolder(std::string& folder) {

@@ -12,8 +12,8 @@ class CantorelClass;
 namespace cantorel::cli {
 
 // The folder that comes with the program: share/cantorel/config beside bin/ once
-// installed, config/ beside the program or above it in a build tree.  Empty when
-// there is none.
+// installed, config/ beside the program or above it in a build tree, or where
+// the installation put it.  Empty when there is none.
 std::string FolderOfProgram();
 
 // The whole path of a folder (the program's own when it is empty) with a

@@ -136,6 +136,15 @@ void AddConvertCommand(CLI::App& app, Action& action) {
       ->check(CLI::Range(1, 1024));
   AddOutputOptions(*command, *call);
   AddFileArguments(*command, options.files);
+  AddExamples(*command,
+              {{"cantorel convert records.mrc", "list the fields that each record should have"},
+               {"cantorel convert --diff records.mrc", "show what a load would change"},
+               {"cantorel convert --output new.mrc records.mrc",
+                "write the records with the new fields in their places"},
+               {"cantorel convert --output changed.mrc.gz --only-changed old.xml",
+                "the changed records alone, compressed"},
+               {"cantorel convert --mode 382 --format json --offline < records.mrc",
+                "medium of performance only, for a program, without the network"}});
   command->callback([&action, call, command] {
     call->names_format = command->count("--format") > 0;
     action = [call] { return RunConvert(*call); };

@@ -11,6 +11,7 @@
 #include "cli/answer.h"
 #include "cli/answer_writers.h"
 #include "cli/ask.h"
+#include "cli/common_options.h"
 #include "cli/conversion_options.h"
 #include "cli/output.h"
 
@@ -91,7 +92,11 @@ void AddHeadingCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<HeadingOptions>();
   AddConversionOptions(*command, options->conversion);
   command->add_flag("--json", options->json, "Write the answer as JSON");
-  command->add_option("HEADING", options->words, "Text of the heading")->required();
+  command->add_option("HEADING", options->words, "Text of the heading")->type_name("")->required();
+  AddExamples(*command, {{"cantorel heading 'Sonatas (Flute and piano)'", "one heading"},
+                         {"cantorel heading 'Concertos (Violin) $v Solo with piano'",
+                          "with a subdivision; the quotes keep $ from the shell"},
+                         {"cantorel heading --json 'Wind quintets'", "for a program"}});
   command->callback([&action, options] { action = [options] { return RunHeading(*options); }; });
 }
 
