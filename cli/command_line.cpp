@@ -8,6 +8,7 @@
 #include "cli/convert_command.h"
 #include "cli/dump_command.h"
 #include "cli/heading_command.h"
+#include "cli/show_command.h"
 #include "cli/version_command.h"
 
 namespace cantorel::cli {
@@ -18,6 +19,7 @@ constexpr AddCommand kCommands[] = {
     AddConvertCommand,
     AddDumpCommand,
     AddHeadingCommand,
+    AddShowCommand,
     AddCheckCommand,
     AddConfigCommand,
     AddVersionCommand,

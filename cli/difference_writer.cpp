@@ -2,25 +2,18 @@
 
 #include <string_view>
 
+#include "cli/colours.h"
 #include "cli/field_text.h"
 
 namespace cantorel::cli {
 namespace {
-
-// How a terminal is told.
-constexpr std::string_view kBold = "\033[1m";
-constexpr std::string_view kRed = "\033[31m";
-constexpr std::string_view kGreen = "\033[32m";
-constexpr std::string_view kPlain = "\033[0m";
 
 class Lines {
  public:
   Lines(bool colours, std::string& out) : colours_(colours), out_(out) {}
 
   void Add(std::string_view colour, std::string_view line) {
-    if (colours_) out_ += colour;
-    out_ += line;
-    if (colours_) out_ += kPlain;
+    AppendColoured(colours_, colour, line, out_);
     out_ += '\n';
   }
 

@@ -130,6 +130,10 @@ void AddDumpCommand(CLI::App& app, Action& action) {
       ->type_name("FILE");
   command->add_flag("--force", options->force, "Replace a file that is there already");
   AddFileArguments(*command, options->files);
+  AddExamples(*command,
+              {{"cantorel dump --to marcxml --output records.xml records.mrc", "as MARCXML"},
+               {"cantorel dump --to iso2709 --output records.mrc records.xml", "and back"},
+               {"cantorel dump records.mrc.gz | grep '^382'", "all fields of one tag"}});
   command->callback([&action, options] { action = [options] { return RunDump(*options); }; });
 }
 

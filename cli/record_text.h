@@ -15,7 +15,7 @@ namespace cantorel::cli {
 //   LDR 00714cjm a2200205Mu 4500
 //   001 ocm51987213
 //   245 10 $a Canon in D / $c Pachelbel.
-void AppendRecordText(Utf8Fields& record, std::string& out);
+void AppendRecordText(Utf8Fields& record, std::string& out, bool colours = false);
 
 }  // namespace cantorel::cli
 

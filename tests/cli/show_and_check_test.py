@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""What `cantorel check` finds in damaged records.
+"""What `cantorel check` finds in damaged records, and `cantorel show` shows.
 
-usage: check_test.py COMMAND SOURCE_FOLDER [TEST...]
+usage: show_and_check_test.py COMMAND SOURCE_FOLDER [TEST...]
 """
 
+import os
+import pty
 import unittest
 
 from command_test import SAMPLE, image, run
@@ -62,6 +64,26 @@ class CheckTest(unittest.TestCase):
                          r"^cantorel: \d+ records, 2 of them with findings; 2 findings\n$")
         self.assertEqual(done.returncode, 1)
         self.assertEqual(run("check", "no such file").returncode, 3)
+
+
+class ShowTest(unittest.TestCase):
+    def test_one_record(self):
+        done = run("show", "--record", 2, SAMPLE)
+        lines = done.stdout.decode().splitlines()
+        self.assertEqual(lines[0], f"{SAMPLE}: record 2")
+        self.assertIn("650 _0 $a Symphonies $v Scores.", lines)
+        self.assertEqual(len([line for line in lines if line.startswith("001")]), 1)
+        self.assertEqual(run("show", "--record", 999, SAMPLE).returncode, 1)
+        self.assertEqual(run("show", "--record", 0, SAMPLE).returncode, 2)
+
+    def test_colours_on_a_terminal_unless_refused(self):
+        for refused in (False, True):
+            environment = dict(os.environ, NO_COLOR="1" if refused else "")
+            master, slave = pty.openpty()
+            run("show", "--record", 1, SAMPLE, stdout=slave, env=environment)
+            os.close(slave)
+            self.assertEqual(b"\x1b[" in os.read(master, 65536), not refused)
+            os.close(master)
 
 
 if __name__ == "__main__":
