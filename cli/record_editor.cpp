@@ -339,7 +339,6 @@ void RecordEditor::AppendEntry(const FieldEntry& entry, std::string& edited) con
   char* const digits = edited.data() + edited.size() - kDirectoryEntryLength + 3;
   // Fields behind the data must not become part of one that overran them.
   if (entry.overruns) WriteDigits(entry.length, 4, digits);
-  if (!layout_.Movable()) return;
   const std::size_t start = Moved(entry.start);
   if (start != entry.start) WriteDigits(start, 5, digits + 4);
 }
