@@ -16,6 +16,8 @@ namespace {
 constexpr std::size_t kCharacterSetPosition = 9;
 constexpr std::size_t kLastStart = 99999;
 constexpr std::string_view kIdentifierCode = "9";
+constexpr std::string_view kScriptsTag = "066";
+constexpr char kMarc8 = 'M';  // the letter of the character set
 
 // The number that names a field: that of its last $9, or without one its row.
 std::int32_t IdentifierOf(const FieldEntry& entry) {
@@ -70,10 +72,12 @@ bool RecordEditor::Apply(std::string_view image, const std::vector<FieldAnswer>&
                          std::string& edited, std::string& fault) {
   layout_.Read(image, record_.RemoveDuplicative035Fields());
   utf8_ = image[kCharacterSetPosition] == 'a';
+  sets_.Clear();
   edit_count_ = 0;
   for (const FieldAnswer& field : fields) {
     if (!Prepare(field, fault)) return false;
   }
+  if (!AnnounceScripts(fault)) return false;
   PlaceNewFields();
   PlaceBodies();
 
@@ -147,18 +151,62 @@ RecordEditor::Edit& RecordEditor::EditFor(const FieldAnswer& field, std::size_t 
   return edit;
 }
 
-bool RecordEditor::MakeBody(const FieldAnswer& field, std::string& body, std::string& fault) const {
-  body = field.indicators;
+bool RecordEditor::MakeBody(const FieldAnswer& field, std::string& body, std::string& fault) {
   if (HoldsTerminator(field.text)) {
     fault = "Field " + field.tag + " would hold the end of a field or record";
     return false;
   }
-  if (!utf8_ && !IsAscii(field.text)) {
-    fault = "Field " + field.tag + " cannot be written in MARC-8";
-    return false;
-  }
-  body += field.text;
+  body = field.indicators;
+  AppendText(field.text, body);
   return true;
+}
+
+void RecordEditor::AppendText(std::string_view text, std::string& body) {
+  if (utf8_ || IsSameInUtf8(text)) {
+    body += text;
+    return;
+  }
+  // MARC-8 has no letters with marks, only letters and marks.
+  bool decomposed = false;
+  const std::string letters = record_.DecomposeUnicodeCharactersInString(text, decomposed);
+  constexpr bool kIs880 = false;
+  Marc8Writer writer(kMarc8, kIs880, marks_, body);
+  writer.Write(letters);
+  sets_.Add(writer.Used());
+}
+
+// --- Scripts of MARC-8 -----------------------------------------------------------
+
+// A record with scripts of other letters than Latin names them in its 066.
+bool RecordEditor::AnnounceScripts(std::string& fault) {
+  const std::string scripts = sets_.FieldText();
+  if (scripts.empty()) return true;
+  const std::vector<FieldEntry>& entries = layout_.Entries();
+  const auto found = std::find_if(entries.begin(), entries.end(), [](const FieldEntry& entry) {
+    return entry.row >= 0 && entry.Tag() == kScriptsTag;
+  });
+  FieldAnswer field;
+  field.tag = kScriptsTag;
+  field.indicators = "  ";
+  field.text = scripts;
+  if (found == entries.end()) return Prepare(field, fault);
+  const std::string_view announced = From(found->text, 2);
+  field.id = IdentifierOf(*found);
+  field.text = WithScripts(announced);
+  return field.text == announced || Prepare(field, fault);
+}
+
+std::string RecordEditor::WithScripts(std::string_view announced) const {
+  std::string text(announced);
+  const std::string scripts = sets_.FieldText();
+  for (const Subfield& script : SplitSubfields(scripts)) {
+    const std::vector<Subfield> there = SplitSubfields(announced);
+    const bool known = std::any_of(there.begin(), there.end(), [&](const Subfield& subfield) {
+      return subfield.code != "a" && subfield.text == script.text;
+    });
+    if (!known) (text += kDelimiter).append(script.code).append(script.text);
+  }
+  return text;
 }
 
 // --- Which field is replaced ---------------------------------------------------

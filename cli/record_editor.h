@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "charset/marc8_writer.h"
+#include "charset/pending_marks.h"
 #include "cli/answer.h"
 #include "cli/record_layout.h"
 
@@ -36,7 +38,8 @@ class RecordEditor {
   // subfields $9, which answers leave out; of two for one field the later one
   // counts.  A new field goes where the fewest others stand on its wrong side;
   // none is moved for it.  Text is written in the character set that leader
-  // position 09 tells.
+  // position 09 tells, UTF-8 or MARC-8; scripts that it brings into a MARC-8
+  // record are announced in its 066.
   //
   // False when the record cannot be written whole; `fault` tells why.
   bool Apply(std::string_view image, const std::vector<FieldAnswer>& fields, std::string& edited,
@@ -55,7 +58,7 @@ class RecordEditor {
  private:
   // A field to write, and the octets of the data that give way to it.
   struct Edit {
-    std::string_view tag;
+    std::string tag;
     std::string body;            // indicators, text, end of field
     bool is_new = false;         // else it replaces an entry
     std::size_t entry = 0;       // the one replaced; for a new field how many stand before it
@@ -68,7 +71,10 @@ class RecordEditor {
 
   bool Prepare(const FieldAnswer& field, std::string& fault);
   Edit& EditFor(const FieldAnswer& field, std::size_t replaced);
-  bool MakeBody(const FieldAnswer& field, std::string& body, std::string& fault) const;
+  bool MakeBody(const FieldAnswer& field, std::string& body, std::string& fault);
+  void AppendText(std::string_view text, std::string& body);
+  bool AnnounceScripts(std::string& fault);
+  std::string WithScripts(std::string_view announced) const;
 
   // Numbers of entries; the count of them when none will do.
   std::size_t FindReplaced(const FieldAnswer& field) const;
@@ -94,6 +100,8 @@ class RecordEditor {
   // The memory of all this serves every record.
   RecordLayout layout_;
   bool utf8_ = false;
+  PendingMarks marks_;
+  Marc8SetsUsed sets_;  // of the text written in MARC-8
   std::vector<Edit> edits_;
   std::size_t edit_count_ = 0;
   std::vector<std::string_view> order_keys_;  // of the entries; empty: stands anywhere

@@ -243,6 +243,31 @@ TEST_F(RecordEditorTest, RefusesWhatCannotBeWrittenWhole) {
             "Field 655 would hold the end of a field or record");
 }
 
+TEST_F(RecordEditorTest, WritesInTheCharacterSetOfTheRecord) {
+  const std::vector<FieldAnswer> answer = {
+      Answer(0, "370", "  $gDvo\u0159\u00e1k$gDvor\u030ca\u0301k"),
+      Answer(0, "655", " 7$a\u0411\u0430\u0445")};
+  const std::string latin =
+      "370   $gDvo\xE9r\xE2"
+      "ak$gDvo\xE9r\xE2"
+      "ak\n";
+  const std::string cyrillic = "655  7$a\x1B(NbAH\x1B(B\n";
+  const std::vector<Field> fields = {{"001", "x"}, {"245", "00$aTitle"}};
+  EXPECT_EQ(Shown(Apply(Image(fields, 'a'), answer)),
+            "001 x\n245 00$aTitle\n370   $gDvo\u0159\u00e1k$gDvor\u030ca\u0301k\n"
+            "655  7$a\u0411\u0430\u0445\n");
+  EXPECT_EQ(Shown(Apply(Image(fields, ' '), answer)),
+            "001 x\n066   $c(N\n245 00$aTitle\n" + latin + cyrillic);
+  // A 066 that is there gets what it lacks, and is left alone when it lacks
+  // nothing.
+  const std::string kScripts[][2] = {{"  $c(3", "  $c(3$c(N"}, {"  $c(N$c(3", "  $c(N$c(3"}};
+  for (const auto& [before, after] : kScripts) {
+    EXPECT_EQ(
+        Shown(Apply(Image({{"001", "x"}, {"066", before}, {"245", "00$aTitle"}}, ' '), answer)),
+        "001 x\n066 " + after + "\n245 00$aTitle\n" + latin + cyrillic);
+  }
+}
+
 // The rows that loading gives are those that the layout counts.
 TEST(RecordLayoutTest, NumbersRowsAsLoadingDoes) {
   const std::string image = Image({{"001", "ab"},
