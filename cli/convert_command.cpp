@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "cli/common_options.h"
@@ -20,6 +21,9 @@ namespace cantorel::cli {
 namespace {
 
 const std::map<std::string, Format> kFormats = {{"text", Format::kText}, {"json", Format::kJson}};
+
+const std::map<std::string, RecordForm> kForms = {{"iso2709", RecordForm::kIso2709},
+                                                  {"marcxml", RecordForm::kMarcXml}};
 
 // What was said on the command line and may not go together.
 struct Call {
@@ -40,8 +44,9 @@ const char* Objection(const Call& call) {
     return "--in-place is not done: write another file with --output, and keep this one";
   }
   if (writes && call.differences) return "--diff writes no file: leave --output out";
-  if (!writes && (options.only_changed || options.force || !options.rejects.empty())) {
-    return "--only-changed, --force and --rejects need --output";
+  if (!writes && (options.only_changed || options.force || !options.rejects.empty() ||
+                  options.form != RecordForm::kAsFirstInput)) {
+    return "--to, --only-changed, --force and --rejects need --output";
   }
   if (options.lines && (writes || call.differences)) {
     return "--lines goes neither with --output nor with --diff: field lines are no records";
@@ -81,6 +86,15 @@ ExitStatus ConvertFiles(const ConvertOptions& options) {
   std::_Exit(kInputOutputFailed);
 }
 
+// Without --to the name of the output may tell.
+RecordForm FormToWrite(const ConvertOptions& options) {
+  if (options.form != RecordForm::kAsFirstInput) return options.form;
+  std::string_view name = options.output;
+  if (name.ends_with(".gz")) name.remove_suffix(3);
+  if (name.ends_with(".xml")) return RecordForm::kMarcXml;
+  return name.ends_with(".mrc") ? RecordForm::kIso2709 : RecordForm::kAsFirstInput;
+}
+
 ExitStatus RunConvert(Call& call) {
   if (const char* const objection = Objection(call)) {
     std::fprintf(stderr, "cantorel: %s\n", objection);
@@ -90,6 +104,7 @@ ExitStatus RunConvert(Call& call) {
   if (!options.output.empty()) options.result = Result::kRecords;
   if (call.differences) options.result = Result::kDifferences;
   options.lists_answers = options.result == Result::kAnswers || call.names_format;
+  options.form = FormToWrite(options);
   options.colours = OutputTakesColours();
 
   options.jobs = ThreadsFor(options);
@@ -103,6 +118,9 @@ void AddOutputOptions(CLI::App& command, Call& call) {
                   "Write the records with their new fields to a file; - is standard output, a "
                   "name in .gz is compressed")
       ->type_name("FILE");
+  AddChoice(command, "--to", options.form, kForms,
+            "Form of the records written (default: MARCXML for a name in .xml, ISO 2709 for "
+            "one in .mrc, otherwise that of the first input)");
   command.add_flag("--only-changed", options.only_changed, "Write only the records that change");
   command.add_flag("--force", options.force, "Replace files that are there already");
   command

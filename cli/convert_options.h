@@ -19,6 +19,9 @@ enum class Result {
   kDifferences,  // what would change is shown
 };
 
+// How records are written.
+enum class RecordForm { kAsFirstInput, kIso2709, kMarcXml };
+
 struct ConvertOptions {
   ConversionOptions conversion;
   Result result = Result::kAnswers;
@@ -28,10 +31,16 @@ struct ConvertOptions {
   bool lines = false;
   std::size_t jobs = 0;  // threads that convert; 0: as many as the machine has cores
   std::string output;
+  RecordForm form = RecordForm::kAsFirstInput;
   std::string rejects;  // empty: a name made of that of the output
   bool only_changed = false;
   bool force = false;
   std::vector<std::string> files;
+
+  bool WritesMarcXml(bool begins_with_marcxml) const {
+    return form == RecordForm::kMarcXml ||
+           (form == RecordForm::kAsFirstInput && begins_with_marcxml);
+  }
 };
 
 }  // namespace cantorel::cli

@@ -39,12 +39,16 @@ std::string FieldLine(char sign, std::string_view tag, std::string_view field) {
 }  // namespace
 
 void AppendDifferences(const RecordAnswer& answer, const std::vector<RecordEditor::Change>& changes,
-                       bool colours, std::string& out) {
+                       Utf8Fields& record, bool colours, std::string& out) {
   Lines lines(colours, out);
   lines.Add(kBold, Heading(answer));
+  const auto add = [&](std::string_view colour, char sign, std::string_view tag,
+                       std::string_view field) {
+    lines.Add(colour, FieldLine(sign, tag, record.InUtf8(tag, field)));
+  };
   for (const RecordEditor::Change& change : changes) {
-    if (!change.before.empty()) lines.Add(kRed, FieldLine('-', change.tag, change.before));
-    lines.Add(kGreen, FieldLine('+', change.tag, change.after));
+    if (!change.before.empty()) add(kRed, '-', change.tag, change.before);
+    add(kGreen, '+', change.tag, change.after);
   }
   out += '\n';
 }

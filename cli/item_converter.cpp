@@ -16,7 +16,10 @@ constexpr std::size_t kLengthDigits = 5;
 }  // namespace
 
 ItemConverter::ItemConverter(CantorelClass& cantorel, const ConvertOptions& options)
-    : cantorel_(cantorel), options_(options), editor_(TheMarcRecord()) {}
+    : cantorel_(cantorel),
+      options_(options),
+      editor_(TheMarcRecord()),
+      marcxml_records_(marcxml_) {}
 
 void ItemConverter::Convert(const ConversionItem& item, ConversionResult& result) {
   result.Clear();
@@ -49,10 +52,17 @@ std::string_view ItemConverter::Readable(const std::string& octets, std::string&
 
 void ItemConverter::Apply(std::string_view record, const ConversionItem& item,
                           ConversionResult& result) {
-  if (!result.changed) return Keep(record, item, result);
-  if (!editor_.Apply(record, result.answer.fields, result.record, result.fault)) return;
-  if (options_.result == Result::kDifferences) {
-    AppendDifferences(result.answer, editor_.Changes(), options_.colours, result.text);
+  if (!result.changed) {
+    Keep(record, item, result);
+  } else if (!editor_.Apply(record, result.answer.fields, result.record, result.fault)) {
+    return;
+  }
+  if (options_.result == Result::kDifferences && result.changed) {
+    fields_.Open(record);
+    AppendDifferences(result.answer, editor_.Changes(), fields_, options_.colours, result.text);
+  }
+  if (options_.result == Result::kRecords && options_.WritesMarcXml(item.begins_with_marcxml)) {
+    WriteMarcXml(result.record.empty() ? record : result.record, result);
   }
 }
 
@@ -70,6 +80,17 @@ void ItemConverter::Keep(std::string_view record, const ConversionItem& item,
   if (item.octets.starts_with(told) && item.octets.size() == record.size()) return;
   result.record = record;
   result.record.replace(0, told.size(), told);
+}
+
+void ItemConverter::WriteMarcXml(std::string_view record, ConversionResult& result) {
+  marcxml_.clear();
+  fields_.Open(record);
+  marcxml_records_.Append(fields_);
+  for (const Repair& repair : marcxml_records_.Repairs()) {
+    result.repairs.push_back(repair.place + ": " + repair.what);
+  }
+  if (marcxml_records_.LostField()) result.fault = "A field has no form in MARCXML";
+  result.record = marcxml_;
 }
 
 }  // namespace cantorel::cli

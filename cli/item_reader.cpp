@@ -11,10 +11,7 @@ bool ItemReader::Next(ConversionItem& item) {
     }
     item.source = files_[opened_ - 1];
     if (Piece piece; reader_->Next(piece)) {
-      item.number = piece.number;
-      item.offset = piece.offset;
-      item.octets = piece.octets;
-      item.fault = piece.fault;
+      Take(piece, item);
       return true;
     }
     reader_.reset();
@@ -31,6 +28,16 @@ void ItemReader::Open(const std::string& file) {
   } else {
     reader_ = OpenRecordReader(*source_);
   }
+  if (opened_ == 1) begins_with_marcxml_ = reader_->ReadsMarcXml();
+}
+
+void ItemReader::Take(const Piece& piece, ConversionItem& item) const {
+  item.number = piece.number;
+  item.offset = piece.offset;
+  item.octets = piece.octets;
+  item.element = piece.element;
+  item.fault = piece.fault;
+  item.begins_with_marcxml = begins_with_marcxml_;
 }
 
 }  // namespace cantorel::cli

@@ -24,10 +24,12 @@ class ItemReader {
 
  private:
   void Open(const std::string& file);
+  void Take(const Piece& piece, ConversionItem& item) const;
 
   const std::vector<std::string>& files_;
   const bool lines_;
   std::size_t opened_ = 0;  // how many of the files
+  bool begins_with_marcxml_ = false;
   std::unique_ptr<InputFile> source_;
   std::unique_ptr<RecordReader> reader_;  // null between two files
 };

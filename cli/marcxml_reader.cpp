@@ -168,7 +168,7 @@ bool MarcXmlReader::More() {
 bool MarcXmlReader::GiveRecord(Piece& piece) {
   const std::string_view element = input_.Peek(length_).substr(0, length_);
   if (!maker_.Make(element, prefix_, image_, fault_)) return GiveFault(fault_, piece);
-  piece = {image_, ++count_, input_.Offset(), {}};
+  piece = {image_, ++count_, input_.Offset(), {}, element};
   return true;
 }
 

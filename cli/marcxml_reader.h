@@ -25,6 +25,7 @@ class MarcXmlReader : public RecordReader {
  public:
   explicit MarcXmlReader(InputBuffer&& input) : input_(std::move(input)) {}
   bool Next(Piece& piece) override;
+  bool ReadsMarcXml() const override { return true; }
 
  private:
   enum class Extent { kWhole, kWrapper, kBroken };

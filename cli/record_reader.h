@@ -20,10 +20,11 @@ namespace cantorel::cli {
 
 // What stands where a record is expected.
 struct Piece {
-  std::string_view octets;   // good until the next one is asked for
-  std::uint64_t number = 0;  // of the piece in its input, from 1
-  std::uint64_t offset = 0;  // of its first octet, from 0
-  std::string_view fault;    // why it cannot be a record, where the reader knows; good as long
+  std::string_view octets;        // good until the next one is asked for
+  std::uint64_t number = 0;       // of the piece in its input, from 1
+  std::uint64_t offset = 0;       // of its first octet, from 0
+  std::string_view fault;         // why it cannot be a record, where the reader knows; good as long
+  std::string_view element = {};  // of MARCXML: what the input has for it; good as long
 };
 
 // A record of more octets than this is cut there and the rest passed over, so
@@ -35,6 +36,8 @@ class RecordReader {
   virtual ~RecordReader() = default;
   // The next piece; false at the end of the input.
   virtual bool Next(Piece& piece) = 0;
+  // The form of the input.
+  virtual bool ReadsMarcXml() const { return false; }
 };
 
 // Reads ISO 2709.  A record ends where its leader says, if a record terminator

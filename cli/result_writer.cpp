@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/output.h"
+#include "display/marcxml_writer.h"
 
 namespace cantorel::cli {
 
@@ -20,8 +21,9 @@ bool ResultWriter::Write(const ConversionItem& item, const ConversionResult& res
     return true;
   }
   Count(result);
+  SayRepairs(item, result);
   if (!result.fault.empty()) SayFault(item, result);
-  if (WritesRecords() && !WriteRecord(item, result)) return false;
+  if (WritesRecords() && !(BeginRecords(item) && WriteRecord(item, result))) return false;
   return result.text.empty() || WriteOutput(result.text);
 }
 
@@ -34,10 +36,29 @@ void ResultWriter::Count(const ConversionResult& result) {
   }
 }
 
+// The first record tells the form in which all are written.
+bool ResultWriter::BeginRecords(const ConversionItem& item) {
+  if (begun_) return true;
+  begun_ = true;
+  writes_marcxml_ = options_.WritesMarcXml(item.begins_with_marcxml);
+  if (!writes_marcxml_) return true;
+  std::string start;
+  MarcXmlWriter(start).BeginCollection();
+  return output_.Write(start);
+}
+
+bool ResultWriter::EndRecords() {
+  if (!begun_ && options_.form == RecordForm::kMarcXml && !BeginRecords({})) return false;
+  if (!writes_marcxml_) return true;
+  std::string end;
+  MarcXmlWriter(end).EndCollection();
+  return output_.Write(end);
+}
+
 bool ResultWriter::WriteRecord(const ConversionItem& item, const ConversionResult& result) {
   if (!result.fault.empty()) {
     ++totals_.rejected;
-    return output_.Reject(item.octets);
+    return output_.Reject(item.AsItCame());
   }
   if (options_.only_changed && !result.changed) return true;
   ++totals_.written;
@@ -46,7 +67,7 @@ bool ResultWriter::WriteRecord(const ConversionItem& item, const ConversionResul
 
 bool ResultWriter::Finish() {
   if (WritesRecords()) {
-    if (!output_.Finish()) return false;
+    if (!EndRecords() || !output_.Finish()) return false;
     SayTotals();
   }
   return FinishOutput();
@@ -56,6 +77,13 @@ void ResultWriter::SayThatInputFailed(const ConversionItem& item) {
   std::fprintf(stderr, "cantorel: cannot read %s: %s\n", std::string(item.source).c_str(),
                item.read_error.c_str());
   status_ = kInputOutputFailed;
+}
+
+void ResultWriter::SayRepairs(const ConversionItem& item, const ConversionResult& result) {
+  for (const std::string& repair : result.repairs) {
+    std::fprintf(stderr, "cantorel: %s: record %" PRIu64 ": %s\n", std::string(item.source).c_str(),
+                 item.number, repair.c_str());
+  }
 }
 
 void ResultWriter::SayFault(const ConversionItem& item, const ConversionResult& result) {

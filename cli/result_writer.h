@@ -38,13 +38,18 @@ class ResultWriter {
 
   bool WritesRecords() const { return options_.result == Result::kRecords; }
   void Count(const ConversionResult& result);
+  bool BeginRecords(const ConversionItem& item);
+  bool EndRecords();
   bool WriteRecord(const ConversionItem& item, const ConversionResult& result);
   void SayThatInputFailed(const ConversionItem& item);
+  void SayRepairs(const ConversionItem& item, const ConversionResult& result);
   void SayFault(const ConversionItem& item, const ConversionResult& result);
   void SayTotals() const;
 
   const ConvertOptions& options_;
   RecordOutput output_;
+  bool begun_ = false;           // a record came up
+  bool writes_marcxml_ = false;  // as it tells
   Totals totals_;
   ExitStatus status_ = kAllWell;
 };

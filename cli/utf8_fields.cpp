@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "charset/marc8_reader.h"
+#include "charset/octet_text.h"
 #include "record/record_image.h"
 
 namespace cantorel::cli {
@@ -49,6 +50,12 @@ bool Utf8Fields::Next(Utf8Field& field) {
     return true;
   }
   return false;
+}
+
+std::string Utf8Fields::InUtf8(std::string_view tag, std::string_view field) {
+  Utf8Field whole{.tag = tag, .indicators = field.substr(0, 2), .text = From(field, 2)};
+  if (translated_ && !IsSameInMarc8(whole.text)) Translate(whole);
+  return std::string(whole.indicators).append(whole.text);
 }
 
 void Utf8Fields::Translate(Utf8Field& field) {

@@ -34,6 +34,9 @@ class Utf8Fields {
   bool Next(Utf8Field& field);
   void Rewind() { position_ = 0; }
 
+  // Indicators and text of a data field in the character set of the image.
+  std::string InUtf8(std::string_view tag, std::string_view field);
+
  private:
   void Translate(Utf8Field& field);
 

@@ -15,6 +15,7 @@ import sys
 import tempfile
 import termios
 import unittest
+import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 COMMAND = str(Path(sys.argv.pop(1)).resolve())
@@ -333,6 +334,26 @@ class CommandTest(unittest.TestCase):
         self.assertEqual(done.stdout, written)
         self.assertEqual(sorted(p.name for p in self.folder.iterdir()),
                          ["changed.mrc", "in.mrc", "out.mrc"])
+
+    def test_records_are_written_as_marcxml(self):
+        long = image(("001", b"long"), *[("500", b"  \x1fa" + b"x" * 9973)] * 10,
+                     ("650", b" 0\x1faFlute music."))
+        path = self.file("in.mrc", FLUTE + long)
+        xml = self.convert_to(self.folder / "out.xml", "--only-changed", self.file("one", FLUTE))
+        self.assertEqual(ElementTree.fromstring(xml)[0].find("*[@tag='382']")[0].text, "flute")
+        # The form of the first input, and the way back.
+        self.assertEqual(self.convert_to(self.folder / "a", self.folder / "out.xml"), xml)
+        self.assertEqual(self.convert_to(self.folder / "b.mrc", self.folder / "out.xml"),
+                         FLUTE_WITH_382)
+        # What is put aside from MARCXML is its element.
+        long_xml = self.folder / "long.xml"
+        run("dump", "--to", "marcxml", "--output", long_xml, path)
+        self.convert_to(self.folder / "c.xml", long_xml, status=1,
+                        said=["record 2 at offset ", "would be longer than 99999 octets"])
+        aside = (self.folder / "c.xml.rejects").read_bytes()
+        self.assertTrue(aside.startswith(b"<marc:record>"), aside[:50])
+        self.assertTrue(aside.endswith(b"</marc:record>"), aside[-50:])
+        self.assertIn(aside, long_xml.read_bytes())
 
     def test_compressed_files(self):
         half = gzip.compress(FLUTE)
