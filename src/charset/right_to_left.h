@@ -14,11 +14,10 @@ bool HasRightToLeftText(std::string_view text);
 
 // Marks the direction of a right-to-left field text for a display that follows
 // the Unicode bidirectional algorithm (UAX 9).  Every subfield but $6 ends in a
-// right-to-left mark (U+200F), so that its closing punctuation stays with it; a
-// stretch of left-to-right text, from its first to its last letter or digit, stands
-// in an embedding (U+202A, U+202C), the partner of a bracket inside included, a
-// final "." not.
-// A subfield that has embeddings keeps them as they are.
+// right-to-left mark (U+200F), so that its closing punctuation stays with it.  A
+// stretch of left-to-right text stands in an embedding (U+202A, U+202C): from its
+// first to its last letter or digit, with the bracket that closes one inside, but
+// without a final ".".  A subfield that has embeddings keeps them as they are.
 std::string MarkDirections(std::string_view field);
 
 }  // namespace cantorel

@@ -60,52 +60,27 @@ struct FieldCase {
 TEST(FieldToUtf8, ReadsEscapesMarksAndNotations) {
   const FieldCase kCases[] = {
       {"245", "|aA & B; &#x; &#xZZ; &# &#12", "|aA & B; &#x; &#xZZ; &# &#12"},
-      {"245",
-       "|a\xE2"
-       "e\xE2",
-       "|ae\u0301\u0301"},
+      {"245", "|a\342e\xE2", "|ae\u0301\u0301"},
       // Class by class; those above in reverse order of arrival, others in order.
-      {"245",
-       "|a\xED\xF2\xE1\xE2\xF3\xF0"
-       "a",
-       "|aa\u0327\u0323\u0324\u0301\u0300\u0315"},
+      {"245", "|a\xED\xF2\xE1\xE2\xF3\360a", "|aa\u0327\u0323\u0324\u0301\u0300\u0315"},
       {"245",
        "|aab\xE2|ce\xE2|"
        "d",
        "|aab\u0301|ce\u0301|d"},
-      {"245",
-       "|\xE2\xE2"
-       "e",
-       "|\xE2"
-       "e\u0301"},  // a code is no mark
+      {"245", "|\xE2\342e", "|\342e\u0301"},  // a code is no mark
       {"245", "|a\xE2~(Na~(B", "|a\u0410\u0301"},
-      {"245",
-       "|a\xEBi\xEC"
-       "a",
-       "|ai\uFE20a\uFE21"},
+      {"245", "|a\xEBi\354a", "|ai\uFE20a\uFE21"},
       // Sets and their partners; Latin returns at a subfield.
-      {"245",
-       "|a~(NaB C\xC0\xE2|ba\xE2"
-       "e",
-       "|a\u0410\u0431 \u0446\u0491\u0403|bae\u0301"},
+      {"245", "|a~(NaB C\xC0\xE2|ba\342e", "|a\u0410\u0431 \u0446\u0491\u0403|bae\u0301"},
       {"245", "|a~(Na|ba", "|a\u0410|ba"},
-      {"245",
-       "|a~)Q\xC0|b\xE2"
-       "e",
-       "|a\u0491|be\u0301"},
-      {"245",
-       "|a~)!E~(N\xE2"
-       "a~)3~(B\xC7",
-       "|a\u0410\u0301\u0627"},
+      {"245", "|a~)Q\xC0|b\342e", "|a\u0491|be\u0301"},
+      {"245", "|a~)!E~(N\342a~)3~(B\xC7", "|a\u0410\u0301\u0627"},
       {"245", "|a~(QD~(!Ebe~s.", "|a\u0451.\u0304\u0301"},
       {"245", "|a~p2~s~b2~(B~gc~sx", "|a\u00B2\u2082\u03B3x"},
       {"245", "|a~$1!3Q !3Q~(Bx~$,1!3Q", "|a\u5203 \u5203x\u5203"},
       {"245", "|a~$1!3Q!3Q!|b!", "|a\u5203\u5203[MARC+21]|b!"},
       {"245", "|a~$1!3Q~(N!", "|a\u5203!"},
-      {"245",
-       "|a~(Zab\xE2"
-       "e~s!",
-       "|a[MARC+61][MARC+62][MARC+65]\u0301!"},
+      {"245", "|a~(Zab\342e~s!", "|a[MARC+61][MARC+62][MARC+65]\u0301!"},
       {"245", "|a\x81\xFF", "|a[MARC+81][MARC+FF]"},
       // An escape that names nothing, or is cut, is text.
       {"245", "|a~xa~|b~(|c~(N|d~$,|e~)!|fa~", "|a~xa~|b~(|c|d~$,|e~)!|fa~"},
@@ -113,14 +88,8 @@ TEST(FieldToUtf8, ReadsEscapesMarksAndNotations) {
       {"245", "|a&#x1F;&#30;&#xD834DD5E;&#x110000;", "|a&#x1F;&#30;\U0001D15E&#x110000;"},
       // A Greek mark goes behind its letter in an 880 and stays elsewhere; points
       // stay everywhere.
-      {"880",
-       "|6245-01/(S|a~(S\x22"
-       "a&a",
-       "|6245-01/(S|a\u03B1\u0301\u0314\u03B1"},
-      {"245",
-       "|a~(S\x22"
-       "a",
-       "|a\u0301\u03B1"},
+      {"880", "|6245-01/(S|a~(S\042a&a", "|6245-01/(S|a\u03B1\u0301\u0314\u03B1"},
+      {"245", "|a~(S\042a", "|a\u0301\u03B1"},
       {"880", "|a~(2`K~(B", "|a\u05D0\u05BC"},
   };
   for (const FieldCase& c : kCases) {
@@ -134,15 +103,8 @@ TEST(FieldToUtf8, ReadsEscapesMarksAndNotations) {
 TEST(FieldToMarc8, WritesEscapesMarksAndNotations) {
   const FieldCase kCases[] = {
       {"245", "|aPlain|bASCII ~x", "|aPlain|bASCII ~x"},
-      {"245",
-       "|a\xF2\xE2"
-       "e\xE1"
-       "a x\xE2 ",
-       "|ae\u0301\u0323a\u0300 x \u0301"},
-      {"245",
-       "|a\xE1\xE2\xF2\xF3"
-       "e",
-       "|ae\u0323\u0324\u0301\u0300"},
+      {"245", "|a\xF2\342e\341a x\xE2 ", "|ae\u0301\u0323a\u0300 x \u0301"},
+      {"245", "|a\xE1\xE2\xF2\363e", "|ae\u0323\u0324\u0301\u0300"},
       {"245", "|a&#x0301;e&#x2603;&#x0301;x", "|a\u0301e\u2603\u0301x"},
       {"245", "|a&#x1d15e;&#x200f;&#x00e9;&#x00c3;", "|a\U0001D15E\u200F\u00E9\xC3"},
       {"245", "|aa &#x001b;(N~x", "|aa ~(N~x"},
@@ -183,22 +145,15 @@ TEST(FieldTranslation, BringsEveryCharacterBackBehindEverySet) {
   for (const std::string& a : samples) {
     for (const std::string& b : samples) {
       for (std::string_view mark : {"", "\u0301", "\u0327\u0323\u0324\u0301\u0300\u0315"}) {
-        const std::string text =
-            "\x1F"
-            "a" +
-            a + b + std::string(mark) + a + " " + b +
-            "\x1F"
-            "b" +
-            b + "e\u0301" + a + std::string(mark);
+        const std::string text = "\037a" + a + b + std::string(mark) + a + " " + b + "\037b" + b +
+                                 "e\u0301" + a + std::string(mark);
         for (std::string_view tag : {"245", "880"}) {
           EXPECT_EQ(Inward(tag, Outward(tag, text)), text);
         }
       }
     }
   }
-  std::string text =
-      "\x1F"
-      "a";
+  std::string text = "\037a";
   for (const auto& [set, code_point] : AllCharacters()) {
     if (MarkClass(code_point) != kNoMark) text += 'x';
     AppendUtf8(code_point, text);
@@ -239,9 +194,7 @@ TEST(FieldTranslation, SettlesWhateverItIsGiven) {
 TEST(FieldTranslation, TakesLongRunsInOneGo) {
   for (std::string_view piece :
        {"\u0301", "\uFE20", "\u03B1", "\u0361", "\x1B", "&#", "x\uFE20\u0301"}) {
-    std::string text =
-        "\x1F"
-        "a";
+    std::string text = "\037a";
     for (int i = 0; i < 20000; ++i) text += piece;
     Inward("245", Outward("245", text));
     Inward("880", text);
@@ -257,46 +210,11 @@ TEST(TranslateMarc2Utf8OneField, CorrectsTheCountOfNonfilingCharacters) {
   const struct {
     std::string_view format, tag, indicators, text, corrected;
   } kCases[] = {
-      {"B", "245", "14",
-       "|aThe\xE2"
-       "a",
-       "13"},
-      {"B", "245", "15",
-       "|aThe \xE2\xE3"
-       "a",
-       "14"},
-      {"B", "245", "14",
-       "|aThe \xE2"
-       "a",
-       "14"},
-      {"B", "245", "19",
-       "|a\xE2"
-       "a",
-       "19"},
-      {"B", "730", "4 ",
-       "|aThe\xE2"
-       "a",
-       "3 "},
-      {"B", "246", "14",
-       "|aThe\xE2"
-       "a",
-       "14"},
-      {"A", "130", " 4",
-       "|aThe\xE2"
-       "a",
-       " 3"},
-      {"A", "730", "4 ",
-       "|aThe\xE2"
-       "a",
-       "4 "},
-      {"H", "245", "14",
-       "|aThe\xE2"
-       "a",
-       "14"},
-      {"B", "245", "1 ",
-       "|aThe\xE2"
-       "a",
-       "1 "},
+      {"B", "245", "14", "|aThe\342a", "13"},  {"B", "245", "15", "|aThe \xE2\343a", "14"},
+      {"B", "245", "14", "|aThe \342a", "14"}, {"B", "245", "19", "|a\342a", "19"},
+      {"B", "730", "4 ", "|aThe\342a", "3 "},  {"B", "246", "14", "|aThe\342a", "14"},
+      {"A", "130", " 4", "|aThe\342a", " 3"},  {"A", "730", "4 ", "|aThe\342a", "4 "},
+      {"H", "245", "14", "|aThe\342a", "14"},  {"B", "245", "1 ", "|aThe\342a", "1 "},
   };
   for (const auto& c : kCases) {
     Utf8MarcRecordClass record;
@@ -333,9 +251,7 @@ TEST(SetUpTranslation, ReplacesOctetsOfAPair) {
                 {1, "\xC0\xC1\xC2\xC5\xC6", "\x90\xA0\x92\xC5\x96"},  // C5 passes
                 {2, "\xC1\xBE", "\xC1\xC1"},
                 {3, "\xBE\xC0\xC1\xC5\xC6", "\xA0\x90\xC1\xC5\x96"},
-                {4, "\x95\xA0\xAF\xCD\xD0",
-                 "\xC5\xC1\x1Bga\x1Bs\x1Bp)\x1Bs\x1B"
-                 "b0\x1Bs"},
+                {4, "\x95\xA0\xAF\xCD\xD0", "\xC5\xC1\x1Bga\x1Bs\x1Bp)\x1Bs\033b0\x1Bs"},
                 {5, "\x95\xA0", "\xC5\xBE"},
                 {6, "\x95\xA0", "\x95\xA0"}};
   for (const auto& c : kCases) {

@@ -18,9 +18,7 @@ using testing::ElementsAre;
 constexpr std::string_view kMarc8Leader = "00000ncm  2200000 i 4500";
 
 std::string Marc8Image() {
-  return Image({"001\xC3\xB1", "005\xC3\xB1", "066  $c(N",
-                "24514$aThe\xE2"
-                "a b",
+  return Image({"001\xC3\xB1", "005\xC3\xB1", "066  $c(N", "24514$aThe\342a b",
                 "880  $6500-00/(N$a\x1B(Na\x1B(B"},
                kMarc8Leader);
 }
@@ -74,14 +72,9 @@ TEST(RecordTranslation, PicksTheRoutineByBothSets) {
       {"M", "O", "500  $a\xC1\xC0", "500  $a\xBE\xC0"},
       {"M", "V", "500  $a\xC5\xC6", "500  $a\xC5\x96"},
       {"V", "M", "500  $a\xC0", "500  $a\x1Bp0\x1Bs"},
-      {"V", "U",
-       "500  $a\xC0\xE2"
-       "e",
-       "500  $a\u2070e\u0301"},
+      {"V", "U", "500  $a\xC0\342e", "500  $a\u2070e\u0301"},
       {"O", "U", "500  $a\xBE", "500  $a\u2113"},
-      {"L", "M", "500  $a\xE9",
-       "500  $a\xE2"
-       "e"},
+      {"L", "M", "500  $a\xE9", "500  $a\342e"},
       {"L", "U", "500  $a\xE9", "500  $ae\u0301"},
       {"M", "L", "500  $a\xC1", "500  $a\xC1"},
       // An 880 is translated by pieces: the octets of other scripts stay.
