@@ -77,8 +77,8 @@ class DocumentTest(unittest.TestCase):
         (programs / "cantorel").chmod(0o755)
         self.environment = dict(
             os.environ, HOME=str(self.folder), PATH=f"{programs}:{os.environ['PATH']}",
-            LC_ALL="C.UTF-8",
-            PAGER="cat", CXX=cached("CMAKE_CXX_COMPILER"), CMAKE_GENERATOR=cached("CMAKE_GENERATOR"))
+            LC_ALL="C.UTF-8", CXX=cached("CMAKE_CXX_COMPILER"),
+            CMAKE_GENERATOR=cached("CMAKE_GENERATOR"))
         if cached("CANTOREL_SANITIZE") == "ON":
             self.environment["CXXFLAGS"] = "-fsanitize=address,undefined"
 
