@@ -9,6 +9,7 @@
 #include "cli/dump_command.h"
 #include "cli/heading_command.h"
 #include "cli/show_command.h"
+#include "cli/translate_command.h"
 #include "cli/version_command.h"
 
 namespace cantorel::cli {
@@ -16,13 +17,8 @@ namespace {
 
 // In the order in which --help lists them.
 constexpr AddCommand kCommands[] = {
-    AddConvertCommand,
-    AddDumpCommand,
-    AddHeadingCommand,
-    AddShowCommand,
-    AddCheckCommand,
-    AddConfigCommand,
-    AddVersionCommand,
+    AddConvertCommand, AddDumpCommand,  AddHeadingCommand, AddTranslateCommand,
+    AddShowCommand,    AddCheckCommand, AddConfigCommand,  AddVersionCommand,
 };
 
 constexpr char kClosing[] =

@@ -29,14 +29,17 @@ bool IsNoInput(const std::string& name, const std::vector<std::string>& inputs) 
 
 bool RecordOutput::Open(const Names& names) {
   output_name_ = names.output;
-  rejects_name_ = names.rejects.empty() ? names.output + ".rejects" : names.rejects;
+  rejects_name_ = names.rejects;
+  if (rejects_name_.empty() && output_name_ != "-") rejects_name_ = output_name_ + ".rejects";
   for (const std::string& name : {output_name_, rejects_name_}) {
+    if (name.empty()) continue;
     if (!IsNoInput(name, names.inputs) || !MayWrite(name, names.force)) return false;
   }
   return output_.Open(output_name_);
 }
 
 bool RecordOutput::Reject(std::string_view octets) {
+  if (rejects_name_.empty()) return true;
   if (!has_rejects_ && !rejects_.Open(rejects_name_)) return false;
   has_rejects_ = true;
   return rejects_.Write(octets);

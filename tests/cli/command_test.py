@@ -517,6 +517,37 @@ class CommandTest(unittest.TestCase):
             "0=0: a field with this tag cannot be written and was left out",
             "500: a field without text was left out"])
 
+    def test_translate(self):
+        def of(text, scheme=b" "):
+            one = image(("001", b"x"), ("245", b"00\x1fa" + text))
+            return one[:9] + scheme + one[10:]
+
+        plain, accent = of(b"Syrinx"), of(b"Caf\xe2e")
+        symbol, bad = of(b"\xc7 \x99"), of(b"\xe2e", b"a")
+        mixed = self.file("mixed.mrc", plain + accent + symbol + bad + b"cut")
+        out = self.folder / "out.mrc"
+        done = run("translate", "--to", "utf8", "--output", out, mixed)
+        self.assertEqual(done.returncode, 1)
+        said = done.stderr.decode()
+        for part in ("control number x: 245 at 51: no such character, written as [MARC+99]",
+                     "record 4 at offset 185, control number x: read as UTF-8, but the octets",
+                     "marc8: 1 records, the first is number 2 of ", "voyager: 1 records",
+                     "5 records read, 4 written, 1 put aside, 1 with characters that could not "
+                     "be translated, 1 whose octets disagree"):
+            self.assertIn(part, said)
+        self.assertEqual(out.read_bytes(), of(b"Syrinx", b"a") + of(b"Cafe\xcc\x81", b"a") +
+                         of("\u2077 [MARC+99]".encode(), b"a") + bad)
+        self.assertEqual((self.folder / "out.mrc.rejects").read_bytes(), b"cut")
+        self.check(run("translate", "--to", "utf8", "--output", out, mixed), 3, "--force")
+        self.check(run("translate", "--output", mixed, "--force", mixed), 3, "files to read")
+
+        done = run("translate", "--from", "marc8", stdin=accent + of(b"\xc7"))
+        self.check(done, 0, "2 records read, 2 written")
+        self.assertEqual(done.stdout, of(b"Cafe\xcc\x81", b"a") + of(b"\xc3\x9f", b"a"))
+        xml = run("dump", "--to", "marcxml", stdin=accent).stdout
+        back = run("translate", "--to", "marc8", stdin=xml)
+        self.assertEqual(back.stdout[24:], accent[24:])
+
     def test_dump_as_text(self):
         ansel = image(("001", b"flute"), ("245", b"0 \x1faCaf\xe2e"), ("500", b"ab"))
         done = run("dump", stdin=FLUTE + ansel[:9] + b" " + ansel[10:] + b"cut")
