@@ -301,12 +301,12 @@ class CommandTest(unittest.TestCase):
 
     def test_files_that_cannot_be_read_do_not_stop_the_others(self):
         good = self.file("good.mrc", FLUTE)
-        for bad, why in ((self.folder / "none.mrc", "No such file"), (self.folder, "directory")):
+        for bad, why in ((self.folder / "none.mrc", "No such file"), (self.folder, "directory"),
+                         (self.file("empty.mrc", b""), "empty")):
             answers = self.answers(bad, good, status=3, said=[str(bad), why])
             self.assertEqual(len(answers), 1)
 
-    def test_empty_input_is_no_fault(self):
-        self.assertEqual(self.answers(self.file("empty.mrc", b"")), [])
+    def test_empty_standard_input_is_no_fault(self):
         self.assertEqual(self.answers(stdin=b""), [])
 
     # --- Records written -------------------------------------------------------------
