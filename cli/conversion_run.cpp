@@ -3,13 +3,22 @@
 #include <algorithm>
 #include <chrono>
 
+#include "cli/interruption.h"
 #include "cli/item_reader.h"
+#include "cli/output.h"
 #include "cli/thread_converter.h"
+#include "platform/terminal.h"
 
 namespace cantorel::cli {
 namespace {
 
 constexpr std::chrono::milliseconds kPatience(100);
+
+// Not among answers in the same terminal.
+bool ShowsProgress(const ConvertOptions& options) {
+  const bool lists = options.lists_answers || options.result == Result::kDifferences;
+  return !options.quiet && !options.conversion.AskUser() && !(lists && IsTerminal(stdout));
+}
 
 }  // namespace
 
@@ -21,19 +30,24 @@ ConversionRun::~ConversionRun() {
   for (std::thread& thread : threads_) thread.join();
 }
 
-bool ConversionRun::WriteAll(ResultWriter& writer) {
+ConversionRun::End ConversionRun::WriteAll(ResultWriter& writer) {
   threads_.emplace_back([this] { Guard([this] { Read(); }); });
   for (std::size_t i = 0; i < options_.jobs; ++i) {
     threads_.emplace_back([this] { Guard([this] { Convert(); }); });
   }
+  Progress progress(options_.files, ShowsProgress(options_));
   ItemQueue::Span span;
   while (queue_.NextToWrite(kPatience, span)) {
-    if (!Write(writer, span)) return false;
+    // Who reads the answers has them when no more come for a while.
+    if (span.begin == span.end && !FinishOutput()) return End::kCannotWrite;
+    if (!Write(writer, progress, span)) return End::kCannotWrite;
     queue_.HaveWritten(span);
+    if (WasInterrupted()) return End::kInterrupted;
+    progress.Show();
   }
   const std::lock_guard lock(exception_mutex_);
   if (exception_ != nullptr) std::rethrow_exception(exception_);
-  return true;
+  return End::kAllWritten;
 }
 
 // An exception in a thread ends the run; WriteAll passes it on.
@@ -109,10 +123,12 @@ void ConversionRun::SettleLookups(std::uint64_t position) {
 }
 
 // By now everything ahead has been converted, so that the first failure is known.
-bool ConversionRun::Write(ResultWriter& writer, const ItemQueue::Span& span) {
+bool ConversionRun::Write(ResultWriter& writer, Progress& progress, const ItemQueue::Span& span) {
   for (std::uint64_t position = span.begin; position != span.end; ++position) {
     SettleLookups(position);
     const ItemQueue::Slot& slot = queue_.At(position);
+    progress.Count(slot.item);
+    if (!slot.item.read_error.empty() || !slot.result.fault.empty()) progress.Erase();
     if (!writer.Write(slot.item, slot.result)) return false;
   }
   return true;

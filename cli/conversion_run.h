@@ -16,6 +16,7 @@
 #include "cli/convert_options.h"
 #include "cli/item_queue.h"
 #include "cli/lookups.h"
+#include "cli/progress.h"
 #include "cli/result_writer.h"
 
 namespace cantorel::cli {
@@ -34,9 +35,11 @@ class ConversionRun {
   // input does not before there is some.
   ~ConversionRun();
 
-  // Reads, converts and writes everything.  False when nothing could be written
-  // any more; then threads may be left, waiting for input or for the service.
-  bool WriteAll(ResultWriter& writer);
+  enum class End { kAllWritten, kCannotWrite, kInterrupted };
+
+  // Reads, converts and writes everything.  At any other end than the first
+  // threads may be left, waiting for input or for the service.
+  End WriteAll(ResultWriter& writer);
 
  private:
   void Read();
@@ -45,7 +48,7 @@ class ConversionRun {
   void NoteFailedLookup(std::uint64_t position);
   bool IsBehindFailedLookup(std::uint64_t position) const;
   void SettleLookups(std::uint64_t position);
-  bool Write(ResultWriter& writer, const ItemQueue::Span& span);
+  bool Write(ResultWriter& writer, Progress& progress, const ItemQueue::Span& span);
   template <typename Work>
   void Guard(Work work);
 

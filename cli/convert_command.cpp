@@ -13,7 +13,9 @@
 #include "cli/common_options.h"
 #include "cli/conversion_run.h"
 #include "cli/convert_options.h"
+#include "cli/interruption.h"
 #include "cli/output.h"
+#include "cli/report.h"
 #include "cli/result_writer.h"
 #include "service/service_objects.h"
 
@@ -44,9 +46,14 @@ const char* Objection(const Call& call) {
     return "--in-place is not done: write another file with --output, and keep this one";
   }
   if (writes && call.differences) return "--diff writes no file: leave --output out";
-  if (!writes && (options.only_changed || options.force || !options.rejects.empty() ||
+  if (!writes && (options.only_changed || !options.rejects.empty() ||
                   options.form != RecordForm::kAsFirstInput)) {
-    return "--to, --only-changed, --force and --rejects need --output";
+    return "--to, --only-changed and --rejects need --output";
+  }
+  const std::string& report = options.report;
+  if (!writes && report.empty() && options.force) return "--force needs --output or --report";
+  if (!report.empty() && !HasReportForm(report)) {
+    return "--report needs a name that ends in .html, .tsv or .json";
   }
   if (options.lines && (writes || call.differences)) {
     return "--lines goes neither with --output nor with --diff: field lines are no records";
@@ -79,11 +86,18 @@ ExitStatus ConvertFiles(const ConvertOptions& options) {
   auto writer = std::make_unique<ResultWriter>(options);
   if (!writer->Open()) return kInputOutputFailed;
 
+  NoteInterruptions();
   ConversionRun run(options, lookups);
-  if (run.WriteAll(*writer)) return writer->Finish() ? writer->Status() : kInputOutputFailed;
+  const ConversionRun::End end = run.WriteAll(*writer);
+  ExitStatus status = kInputOutputFailed;
+  if (end != ConversionRun::End::kCannotWrite &&
+      writer->Finish(end == ConversionRun::End::kInterrupted)) {
+    status = writer->Status();
+  }
+  if (end == ConversionRun::End::kAllWritten) return status;
   writer.reset();
   // Threads may be waiting for input that never comes, and nobody needs them.
-  std::_Exit(kInputOutputFailed);
+  std::_Exit(status);
 }
 
 // Without --to the name of the output may tell.
@@ -152,6 +166,12 @@ void AddConvertCommand(CLI::App& app, Action& action) {
                    "each core)")
       ->type_name("N")
       ->check(CLI::Range(1, 1024));
+  command
+      ->add_option("--report", options.report,
+                   "Write a report on the whole run; its form is told by its name, .html, .tsv "
+                   "or .json")
+      ->type_name("FILE");
+  command->add_flag("--quiet", options.quiet, "Show no progress and no totals");
   AddOutputOptions(*command, *call);
   AddFileArguments(*command, options.files);
   AddExamples(*command,

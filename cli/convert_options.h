@@ -33,6 +33,8 @@ struct ConvertOptions {
   std::string output;
   RecordForm form = RecordForm::kAsFirstInput;
   std::string rejects;  // empty: a name made of that of the output
+  std::string report;   // its name tells the form
+  bool quiet = false;   // no progress, no totals
   bool only_changed = false;
   bool force = false;
   std::vector<std::string> files;

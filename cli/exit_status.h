@@ -11,6 +11,7 @@ enum ExitStatus : int {
   kSomethingFound = 1,     // a check found what should be looked at
   kWrongCall = 2,          // wrong options, or no configuration folder to work with
   kInputOutputFailed = 3,  // reading a file or writing the answers failed
+  kInterrupted = 130,      // by Ctrl-C or a request to end; what was done is kept
 };
 
 }  // namespace cantorel::cli

@@ -14,6 +14,10 @@ constexpr std::uint64_t kLongestSpan = 64;
 // The memory of a string that grew beyond this is given back.
 constexpr std::size_t kMostKept = 64 * 1024;
 
+std::size_t OctetsOf(const ConversionItem& item) {
+  return item.octets.size() + item.element.size();
+}
+
 void GiveBack(std::string& text) {
   if (text.capacity() > kMostKept) std::string().swap(text);
 }
@@ -38,7 +42,7 @@ ItemQueue::Slot* ItemQueue::NextToRead() {
 
 void ItemQueue::HaveRead() {
   const std::lock_guard lock(mutex_);
-  octets_ += At(read_).item.octets.size();
+  octets_ += OctetsOf(At(read_).item);
   converted_[read_ % slots_.size()] = false;
   ++read_;
   if (idle_ > 0) work_.notify_one();
@@ -94,8 +98,9 @@ void ItemQueue::HaveWritten(const Span& span) {
   std::size_t octets = 0;
   for (std::uint64_t position = span.begin; position != span.end; ++position) {
     Slot& slot = At(position);
-    octets += slot.item.octets.size();
+    octets += OctetsOf(slot.item);
     GiveBack(slot.item.octets);
+    GiveBack(slot.item.element);
     GiveBack(slot.result.record);
     GiveBack(slot.result.text);
   }

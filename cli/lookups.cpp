@@ -79,15 +79,21 @@ class Lookups::ThreadClient : public Client {
       : shared_(shared), http_(std::move(http)) {}
 
   bool Get(const std::string& url, const std::string& user_agent, HttpAnswer& answer) override {
+    if (shared_.memory_.Find(url, answer)) return true;
     LookupCache* const cache = shared_.cache_.get();
-    if (cache != nullptr && cache->Find(url, answer)) return true;
+    if (cache != nullptr && cache->Find(url, answer)) {
+      shared_.memory_.Keep(url, answer);
+      return true;
+    }
     shared_.limiter_.Wait();
     if (!http_->Get(url, user_agent, answer)) {
       has_failed_ = true;
       SayFailure(url, answer.fault);
       return false;
     }
-    if (cache != nullptr && IsLasting(answer)) cache->Keep(url, answer);
+    if (!IsLasting(answer)) return true;
+    shared_.memory_.Keep(url, answer);
+    if (cache != nullptr) cache->Keep(url, answer);
     return true;
   }
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "cli/answer_memory.h"
 #include "cli/lookup_cache.h"
 #include "cli/rate_limiter.h"
 #include "platform/http_get.h"
@@ -50,10 +51,9 @@ class Lookups {
   // A client for one thread; null when nothing is to be asked.  It must not
   // outlive this object.
   //
-  // An answer is taken from the cache if that has it.  Otherwise the client waits
-  // for its turn and asks; what was found or is not there is kept in the cache,
-  // while failures and faults of the service are not.  The first failure is said
-  // on standard error.
+  // An answer is taken from the run's memory or the cache if they have it.  Otherwise the client
+  // waits for its turn and asks; what was found or is not there is kept in both, while failures and
+  // faults of the service are not.  The first failure is said on standard error.
   std::unique_ptr<Client> MakeClient();
 
  private:
@@ -61,6 +61,7 @@ class Lookups {
 
   const LookupOptions& options_;
   RateLimiter limiter_;
+  AnswerMemory memory_;
   std::unique_ptr<LookupCache> cache_;
   std::atomic<bool> failure_said_ = false;
 };

@@ -10,7 +10,7 @@ namespace cantorel::cli {
 // Both answer false, and say so on standard error, when standard output takes no
 // more: it is closed, its reader has gone, the disk is full.
 bool WriteOutput(std::string_view text);
-// To be called once at the end: what was written may still be on its way.
+// To be called at the end: what was written may still be on its way.
 bool FinishOutput();
 
 // Whether standard output is a terminal whose user wants colours: the variable

@@ -12,6 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kPartial = ".partial";
+
 // Something other than a file that could be replaced by one.
 bool IsDevice(const std::string& name) {
   std::error_code error;
@@ -57,6 +59,14 @@ bool OutputFile::Finish() {
   std::FILE* const device = device_;
   device_ = nullptr;
   return std::fclose(device) == 0 || Fail();
+}
+
+bool OutputFile::FinishPartial() {
+  if (new_file_) {
+    new_file_->AddToTarget(kPartial);
+    name_ += kPartial;
+  }
+  return Finish();
 }
 
 void OutputFile::Discard() {

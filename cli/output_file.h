@@ -32,6 +32,10 @@ class OutputFile {
   bool Write(std::string_view text);
   // To be called once at the end: puts the file under its name.
   bool Finish();
+  // The same for a file that is not whole, under its name with ".partial" behind
+  // it, in place of what has that name.
+  bool FinishPartial();
+  const std::string& Name() const { return name_; }
   // Drops what was written to a file; the name has what it had before.
   void Discard();
 

@@ -28,14 +28,13 @@ bool IsNoInput(const std::string& name, const std::vector<std::string>& inputs) 
 }  // namespace
 
 bool RecordOutput::Open(const Names& names) {
-  output_name_ = names.output;
   rejects_name_ = names.rejects;
-  if (rejects_name_.empty() && output_name_ != "-") rejects_name_ = output_name_ + ".rejects";
-  for (const std::string& name : {output_name_, rejects_name_}) {
+  if (rejects_name_.empty() && names.output != "-") rejects_name_ = names.output + ".rejects";
+  for (const std::string& name : {names.output, rejects_name_}) {
     if (name.empty()) continue;
     if (!IsNoInput(name, names.inputs) || !MayWrite(name, names.force)) return false;
   }
-  return output_.Open(output_name_);
+  return output_.Open(names.output);
 }
 
 bool RecordOutput::Reject(std::string_view octets) {
@@ -51,6 +50,11 @@ bool RecordOutput::Finish() {
   std::error_code error;
   if (fs::is_regular_file(rejects_name_, error)) fs::remove(rejects_name_, error);
   return output_.Finish();
+}
+
+bool RecordOutput::FinishPartial() {
+  if (has_rejects_ && !rejects_.FinishPartial()) return false;
+  return output_.FinishPartial();
 }
 
 }  // namespace cantorel::cli

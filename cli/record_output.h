@@ -35,12 +35,14 @@ class RecordOutput {
   // To be called once at the end: puts the files under their names.  Rejects of
   // an earlier run are removed when this one has none.
   bool Finish();
+  // The same when not all was written: the files get ".partial" behind their
+  // names, and those of an earlier run stay.
+  bool FinishPartial();
 
-  const std::string& Name() const { return output_name_; }
-  const std::string& RejectsName() const { return rejects_name_; }
+  const std::string& Name() const { return output_.Name(); }
+  const std::string& RejectsName() const { return rejects_.Name(); }
 
  private:
-  std::string output_name_;
   std::string rejects_name_;
   OutputFile output_;
   OutputFile rejects_;

@@ -11,6 +11,10 @@
 namespace cantorel::cli {
 
 bool ResultWriter::Open() {
+  const std::string& report = options_.report;
+  if (!report.empty() && (!MayWrite(report, options_.force) || !report_file_.Open(report))) {
+    return false;
+  }
   if (!WritesRecords()) return true;
   return output_.Open({options_.output, options_.rejects, options_.files, options_.force});
 }
@@ -18,22 +22,28 @@ bool ResultWriter::Open() {
 bool ResultWriter::Write(const ConversionItem& item, const ConversionResult& result) {
   if (!item.read_error.empty()) {
     SayThatInputFailed(item);
+    if (!options_.report.empty()) report_.AddUnread(item, item.read_error);
     return true;
   }
-  Count(result);
+  Count(item, result);
   SayRepairs(item, result);
   if (!result.fault.empty()) SayFault(item, result);
   if (WritesRecords() && !(BeginRecords(item) && WriteRecord(item, result))) return false;
   return result.text.empty() || WriteOutput(result.text);
 }
 
-void ResultWriter::Count(const ConversionResult& result) {
-  ++totals_.records;
-  if (!result.fault.empty() || !result.changed) return;
-  ++totals_.changed;
-  for (const FieldAnswer& field : result.answer.fields) {
-    ++(field.IsReplacement() ? totals_.fields_replaced : totals_.fields_added);
+void ResultWriter::Count(const ConversionItem& item, const ConversionResult& result) {
+  RunTotals& totals = report_.totals;
+  ++totals.records;
+  if (result.fault.empty() && result.changed) {
+    ++totals.changed;
+    for (const FieldAnswer& field : result.answer.fields) {
+      ++(field.IsReplacement() ? totals.fields_replaced : totals.fields_added);
+    }
   }
+  if (options_.report.empty()) return;
+  if (!result.fault.empty()) return report_.AddUnread(item, result.fault);
+  report_.Add(result.answer);
 }
 
 // The first record tells the form in which all are written.
@@ -57,20 +67,33 @@ bool ResultWriter::EndRecords() {
 
 bool ResultWriter::WriteRecord(const ConversionItem& item, const ConversionResult& result) {
   if (!result.fault.empty()) {
-    ++totals_.rejected;
+    ++report_.totals.rejected;
     return output_.Reject(item.AsItCame());
   }
   if (options_.only_changed && !result.changed) return true;
-  ++totals_.written;
+  ++report_.totals.written;
   return output_.Write(result.record.empty() ? item.octets : result.record);
 }
 
-bool ResultWriter::Finish() {
-  if (WritesRecords()) {
-    if (!EndRecords() || !output_.Finish()) return false;
-    SayTotals();
+bool ResultWriter::Finish(bool interrupted) {
+  if (interrupted) {
+    std::fprintf(stderr, "cantorel: interrupted behind record %" PRIu64 "\n",
+                 report_.totals.records);
+    status_ = kInterrupted;
   }
-  return FinishOutput();
+  if (WritesRecords()) {
+    if (!EndRecords() || !(interrupted ? output_.FinishPartial() : output_.Finish())) return false;
+    if (!options_.quiet) SayTotals();
+  }
+  return FinishOutput() && WriteReport(interrupted);
+}
+
+bool ResultWriter::WriteReport(bool interrupted) {
+  if (options_.report.empty()) return true;
+  report_.totals.interrupted = interrupted;
+  std::string text;
+  AppendReport(options_.report, report_, text);
+  return report_file_.Write(text) && report_file_.Finish();
 }
 
 void ResultWriter::SayThatInputFailed(const ConversionItem& item) {
@@ -96,13 +119,14 @@ void ResultWriter::SayFault(const ConversionItem& item, const ConversionResult& 
 }
 
 void ResultWriter::SayTotals() const {
+  const RunTotals& totals = report_.totals;
   std::fprintf(stderr,
                "cantorel: %" PRIu64 " records read, %" PRIu64 " changed (%" PRIu64
                " fields added, %" PRIu64 " replaced), %" PRIu64 " written to %s",
-               totals_.records, totals_.changed, totals_.fields_added, totals_.fields_replaced,
-               totals_.written, output_.Name().c_str());
-  if (totals_.rejected > 0) {
-    std::fprintf(stderr, ", %" PRIu64 " put aside in %s", totals_.rejected,
+               totals.records, totals.changed, totals.fields_added, totals.fields_replaced,
+               totals.written, output_.Name().c_str());
+  if (totals.rejected > 0) {
+    std::fprintf(stderr, ", %" PRIu64 " put aside in %s", totals.rejected,
                  output_.RejectsName().c_str());
   }
   std::fputc('\n', stderr);

@@ -8,7 +8,9 @@
 #include "cli/conversion_item.h"
 #include "cli/convert_options.h"
 #include "cli/exit_status.h"
+#include "cli/output_file.h"
 #include "cli/record_output.h"
+#include "cli/report.h"
 
 namespace cantorel::cli {
 
@@ -20,26 +22,18 @@ class ResultWriter {
   // can be written, or no more.
   bool Open();
   bool Write(const ConversionItem& item, const ConversionResult& result);
-  // To be called once, when all is written.
-  bool Finish();
+  // To be called once, when all is written, or when the run was `interrupted`.
+  bool Finish(bool interrupted);
 
   // What the run has come to so far.
   ExitStatus Status() const { return status_; }
 
  private:
-  struct Totals {
-    std::uint64_t records = 0;
-    std::uint64_t changed = 0;
-    std::uint64_t fields_added = 0;
-    std::uint64_t fields_replaced = 0;
-    std::uint64_t written = 0;
-    std::uint64_t rejected = 0;
-  };
-
   bool WritesRecords() const { return options_.result == Result::kRecords; }
-  void Count(const ConversionResult& result);
+  void Count(const ConversionItem& item, const ConversionResult& result);
   bool BeginRecords(const ConversionItem& item);
   bool EndRecords();
+  bool WriteReport(bool interrupted);
   bool WriteRecord(const ConversionItem& item, const ConversionResult& result);
   void SayThatInputFailed(const ConversionItem& item);
   void SayRepairs(const ConversionItem& item, const ConversionResult& result);
@@ -50,7 +44,8 @@ class ResultWriter {
   RecordOutput output_;
   bool begun_ = false;           // a record came up
   bool writes_marcxml_ = false;  // as it tells
-  Totals totals_;
+  OutputFile report_file_;
+  Report report_;
   ExitStatus status_ = kAllWell;
 };
 

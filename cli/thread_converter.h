@@ -33,6 +33,8 @@ class ThreadConverter {
   bool Convert(const ConversionItem& item, ConversionResult& result);
 
  private:
+  static void ForgetPlaces();
+
   const ConvertOptions& options_;
   Lookups& lookups_;
   bool offline_ = false;

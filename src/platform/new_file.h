@@ -24,6 +24,9 @@ class NewFile {
   // False when nothing can be written in the folder of the target.
   bool IsOpen() const { return file_ != nullptr; }
 
+  // Puts `ending` behind the name that the file is to have.
+  void AddToTarget(std::string_view ending) { target_ += ending; }
+
   // All of these answer false, errno telling why, when the system refuses.
   bool Write(std::string_view content);
   // Puts what was written in the place of the target.  After a failure, here or

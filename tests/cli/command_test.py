@@ -10,12 +10,15 @@ import json
 import os
 import pty
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
 import termios
+import threading
 import unittest
 import xml.etree.ElementTree as ElementTree
+from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
 
 COMMAND = str(Path(sys.argv.pop(1)).resolve())
@@ -146,6 +149,28 @@ GENRES = [
     # The last one only for the number of performers.
     ("Sonatas (Flute and piano)", ["Sonatas", "Chamber music"]),
 ]
+
+
+class Authorities(BaseHTTPRequestHandler):
+    """A service that knows Boston, and breaks when it is asked for Atlantis."""
+
+    RECORD = (b"<record xmlns='http://www.loc.gov/MARC21/slim'><leader>00000nz  a2200000n  4500"
+              b"</leader><datafield tag='151' ind1=' ' ind2=' '><subfield code='a'>Boston (Mass.)"
+              b"</subfield></datafield></record>")
+
+    def do_GET(self):
+        if "tlantis" in self.path:
+            self.close_connection = True
+            return
+        page = b'<a href="/authorities/names/n1">' if "oston" in self.path else b"<html>"
+        page = self.RECORD if self.path == "/n1/marcxml" else page
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(page)))
+        self.end_headers()
+        self.wfile.write(page)
+
+    def log_message(self, *_):
+        pass
 
 
 class CommandTest(unittest.TestCase):
@@ -308,6 +333,103 @@ class CommandTest(unittest.TestCase):
 
     def test_empty_standard_input_is_no_fault(self):
         self.assertEqual(self.answers(stdin=b""), [])
+
+    # --- Runs ------------------------------------------------------------------------
+
+    def convert_online(self, path, *arguments):
+        server = ThreadingHTTPServer(("127.0.0.1", 0), Authorities)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        url = f"http://127.0.0.1:{server.server_port}"
+        done = subprocess.run([COMMAND, "convert", "--linked-data-url", url, "--permalink-url", url,
+                               "--lookup-rate", "1000", *map(str, arguments), path],
+                              stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120,
+                              env={**os.environ, "no_proxy": "*"})
+        server.shutdown()
+        server.server_close()
+        return done
+
+    def test_answers_do_not_depend_on_the_number_of_threads(self):
+        if b"without libcurl" in run("version").stdout:
+            self.skipTest("no client")
+
+        def about(*places):
+            return image(("001", b"place"), ("650", b" 0\x1faSongs" + b"".join(
+                b"\x1fz" + place for place in places)))
+        boston, region, lost, fatal = (
+            about(b"Massachusetts", b"Boston"), about(b"Massachusetts", b"Boston Metropolitan Area"),
+            about(b"Nowhere"), about(b"Atlantis"))
+        mixed = [boston, region, about(b"Massachusetts", b"Boston metropolitan area"), lost, FLUTE,
+                 FLUTE[:70]]
+        sample = SAMPLE.read_bytes()
+        sound = self.file("sound.mrc", b"".join(mixed) * 20 + sample)
+        broken = self.file("broken.mrc", b"".join(mixed) * 20 + boston + fatal + boston + fatal
+                           + sample + b"".join(mixed) * 20)
+        for path in (sound, broken):
+            alone = self.convert_online(path, "--jobs", 1, "--format", "json").stdout
+            for jobs in (2, 5):
+                done = self.convert_online(path, "--jobs", jobs, "--format", "json")
+                self.assertEqual(done.returncode, 1, done.stderr)
+                self.assertEqual(done.stdout, alone)
+        # What comes behind the failure is answered without look-ups.
+        found = [b"Boston (Mass.)" in line for line in alone.splitlines()]
+        self.assertEqual(found[0::5][:21], [True] * 21)
+        self.assertFalse(any(found[101:]))
+
+    def test_interrupted_runs_keep_what_was_done(self):
+        output = self.folder / "out.mrc"
+        process = subprocess.Popen(call("convert", "--mode", "382", "--format", "json", "--output",
+                                        output), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE)
+        process.stdin.write(FLUTE * 3)
+        process.stdin.flush()
+        for _ in range(3):  # though the input goes on
+            self.assertIn(b"flute", process.stdout.readline())
+        process.send_signal(signal.SIGINT)
+        self.assertEqual(process.wait(60), 130)
+        self.assertIn(b"interrupted", process.stderr.read())
+        self.assertEqual(Path(f"{output}.partial").read_bytes(), FLUTE_WITH_382 * 3)
+        self.assertEqual([path.name for path in self.folder.iterdir()], ["out.mrc.partial"])
+        for pipe in (process.stdin, process.stdout, process.stderr):
+            pipe.close()
+
+    def test_progress_is_for_terminals(self):
+        for options, shown in (([], True), (["--quiet"], False)):
+            master, slave = pty.openpty()
+            done = subprocess.run(call("convert", *options, SAMPLE), stdout=subprocess.PIPE,
+                                  stderr=slave, timeout=120)
+            self.assertEqual(done.returncode, 0)
+            os.write(slave, b".")
+            self.assertEqual(b" records/s" in os.read(master, 65536), shown)
+            os.close(slave)
+            os.close(master)
+
+    def test_reports(self):
+        odd = image(("001", b"<odd>"), ("650", b" 0\x1faFlute & \xff<script>alert(1)</script>"))
+        path = self.file("in.mrc", FLUTE * 7 + odd + FLUTE[:70]
+                         + image(("001", b"book"), ("245", b"00\x1faBook."), record_type="a"))
+        reports = {}
+        for form in ("json", "tsv", "html"):
+            report = self.folder / f"report.{form}"
+            done = run("convert", "--mode", "382", "--report", report, path)
+            self.assertEqual(done.returncode, 1, done.stderr)
+            reports[form] = report.read_text()  # which must be UTF-8
+        told = json.loads(reports["json"])
+        self.assertEqual(told["totals"], {
+            "records": 10, "records_changed": 7, "records_not_music": 1, "not_read": 1,
+            "fields_added": 7, "fields_replaced": 0})
+        self.assertEqual(told["fields"], [
+            {"tag": "382", "term": "flute", "action": "add", "count": 7, "examples": ["flute"]}])
+        self.assertEqual([(row["heading"], row["examples"])
+                          for row in told["headings_without_fields"]],
+                         [("$aFlute & \ufffd<script>alert(1)</script>", ["<odd>"])])
+        self.assertEqual([(row["count"], row["examples"]) for row in told["not_read"]],
+                         [(1, ["record 9"])])
+        self.assertIn("\nfields\t382\tflute\tadd\t7\tflute ...\n", reports["tsv"])
+        self.assertEqual({line.count("\t") for line in reports["tsv"].splitlines()}, {5})
+        self.assertIn("Flute &amp; \ufffd&lt;script&gt;alert(1)", reports["html"])
+        self.assertNotIn("alert(1)</script>", reports["html"])
+        self.check(run("convert", "--report", self.folder / "report.tsv", path), 3, "--force")
+        self.check(run("convert", "--report", "report.pdf", path), 2, ".html")
 
     # --- Records written -------------------------------------------------------------
 
