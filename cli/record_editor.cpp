@@ -187,7 +187,7 @@ bool RecordEditor::AnnounceScripts(std::string& fault) {
   });
   FieldAnswer field;
   field.tag = kScriptsTag;
-  field.indicators = "  ";
+  field.indicators.assign(2, ' ');
   field.text = scripts;
   if (found == entries.end()) return Prepare(field, fault);
   const std::string_view announced = From(found->text, 2);

@@ -20,12 +20,12 @@ namespace cantorel::cli {
 class RecordOutput {
  public:
   struct Names {
-    std::string output;
+    std::string output{};
     // Empty: that of the output with ".rejects" behind it; none for standard output,
     // so that rejects are dropped.
-    std::string rejects;
-    std::vector<std::string> inputs;  // none of them is written to
-    bool force = false;               // files that are there may be replaced
+    std::string rejects{};
+    std::vector<std::string> inputs{};  // none of them is written to
+    bool force = false;                 // files that are there may be replaced
   };
 
   // Once for each object.
