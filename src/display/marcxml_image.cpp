@@ -111,6 +111,10 @@ bool MarcXmlImage::EndField(std::string& fault) {
 }
 
 bool MarcXmlImage::AddSubfield(const MarcXmlPart& part, std::string& fault) {
+  if (!in_field_) {
+    fault = "A subfield stands outside of any field";
+    return false;
+  }
   const std::string_view code = Attribute(part.attributes, "code");
   if (code.size() != 1 || IsNoText(code[0])) {
     fault = "A subfield of " + tag_ + " has \"" + std::string(code) + "\" for its code";

@@ -79,6 +79,8 @@ TEST(MarcXmlReader, CutsAnInputIntoRecords) {
       {"<?xml version='1.0' encoding='ISO-8859-1'?><record>" + kLeader + "</record>",
        "0 MARCXML in ISO-8859-1 is not read, only UTF-8\n"},
       {std::string("\xFF\xFE<\0?\0", 6), "0 MARCXML in UTF-16 is not read, only UTF-8\n"},
+      {"<record><datafield tag='500'>" + kLeader + "<subfield code='a'>x</subfield></record>",
+       "0 A subfield stands outside of any field\n"},
       // What ISO 2709 has no form for.
       {"<record></record><record>" + kLeader + "<datafield tag='50'/></record><record>" + kLeader +
            "<datafield tag='500'><subfield code='ab'>x</subfield></datafield></record><record>" +
