@@ -38,7 +38,7 @@ class Dump {
   explicit Dump(const DumpOptions& options) : options_(options), marcxml_(out_) {}
 
   ExitStatus Run() {
-    if (!MayWrite(options_.output, options_.force)) return kInputOutputFailed;
+    if (!MayWrite(options_.output, options_.files, options_.force)) return kInputOutputFailed;
     if (!output_.Open(options_.output)) return kInputOutputFailed;
     if (options_.form == Form::kMarcXml) marcxml_.Begin();
     ItemReader reader(options_.files, false);

@@ -1,5 +1,6 @@
 #include "cli/output_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -13,6 +14,21 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kPartial = ".partial";
+
+bool AreOneFile(const std::string& name, const std::string& other) {
+  std::error_code error;
+  return fs::is_regular_file(name, error) && fs::equivalent(name, other, error);
+}
+
+bool IsNoInput(const std::string& name, const std::vector<std::string>& inputs) {
+  const bool is_input = std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
+    return AreOneFile(name, input);
+  });
+  if (is_input) {
+    std::fprintf(stderr, "cantorel: %s is one of the files to read; name another\n", name.c_str());
+  }
+  return !is_input;
+}
 
 // Something other than a file that could be replaced by one.
 bool IsDevice(const std::string& name) {
@@ -80,7 +96,8 @@ bool OutputFile::Fail() {
   return false;
 }
 
-bool MayWrite(const std::string& name, bool force) {
+bool MayWrite(const std::string& name, const std::vector<std::string>& inputs, bool force) {
+  if (!IsNoInput(name, inputs)) return false;
   std::error_code error;
   if (force || name == "-" || !fs::exists(name, error) || IsDevice(name)) return true;
   std::fprintf(stderr, "cantorel: %s is there already; --force replaces it\n", name.c_str());

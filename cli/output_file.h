@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/gzip.h"
 #include "platform/new_file.h"
@@ -49,10 +50,10 @@ class OutputFile {
   std::FILE* device_ = nullptr;
 };
 
-// Whether a call may write a file of this name: there is none, or only something
-// that is no file, or it is to be replaced (`force`).  If not, says so on standard
-// error.
-bool MayWrite(const std::string& name, bool force);
+// Whether a call that reads `inputs` may write a file of this name: it is none of
+// these, and there is none yet, or only something that is no file, or it is to be
+// replaced (`force`).  If not, says so on standard error.
+bool MayWrite(const std::string& name, const std::vector<std::string>& inputs, bool force);
 
 }  // namespace cantorel::cli
 

@@ -1,38 +1,18 @@
 #include "cli/record_output.h"
 
-#include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
 namespace cantorel::cli {
-namespace {
 
 namespace fs = std::filesystem;
-
-bool AreOneFile(const std::string& name, const std::string& other) {
-  std::error_code error;
-  return fs::is_regular_file(name, error) && fs::equivalent(name, other, error);
-}
-
-bool IsNoInput(const std::string& name, const std::vector<std::string>& inputs) {
-  const bool is_input = std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
-    return AreOneFile(name, input);
-  });
-  if (is_input) {
-    std::fprintf(stderr, "cantorel: %s is one of the files to read; name another\n", name.c_str());
-  }
-  return !is_input;
-}
-
-}  // namespace
 
 bool RecordOutput::Open(const Names& names) {
   rejects_name_ = names.rejects;
   if (rejects_name_.empty() && names.output != "-") rejects_name_ = names.output + ".rejects";
   for (const std::string& name : {names.output, rejects_name_}) {
     if (name.empty()) continue;
-    if (!IsNoInput(name, names.inputs) || !MayWrite(name, names.force)) return false;
+    if (!MayWrite(name, names.inputs, names.force)) return false;
   }
   return output_.Open(names.output);
 }

@@ -12,7 +12,8 @@ namespace cantorel::cli {
 
 bool ResultWriter::Open() {
   const std::string& report = options_.report;
-  if (!report.empty() && (!MayWrite(report, options_.force) || !report_file_.Open(report))) {
+  if (!report.empty() &&
+      (!MayWrite(report, options_.files, options_.force) || !report_file_.Open(report))) {
     return false;
   }
   if (!WritesRecords()) return true;

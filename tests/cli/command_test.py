@@ -428,7 +428,9 @@ class CommandTest(unittest.TestCase):
         self.assertEqual({line.count("\t") for line in reports["tsv"].splitlines()}, {5})
         self.assertIn("Flute &amp; \ufffd&lt;script&gt;alert(1)", reports["html"])
         self.assertNotIn("alert(1)</script>", reports["html"])
-        self.check(run("convert", "--report", self.folder / "report.tsv", path), 3, "--force")
+        report = self.folder / "report.tsv"
+        self.check(run("convert", "--report", report, path), 3, "--force")
+        self.check(run("convert", "--report", report, "--force", report), 3, "one of the files")
         self.check(run("convert", "--report", "report.pdf", path), 2, ".html")
 
     # --- Records written -------------------------------------------------------------
