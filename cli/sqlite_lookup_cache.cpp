@@ -59,14 +59,17 @@ std::int64_t Number(sqlite3* database, const char* query) {
              : -1;
 }
 
-// A file is ours, or empty as SQLite sees it, or somebody else's.
+// A file is ours, or empty as SQLite sees it, or somebody else's.  Both questions
+// are put to one state of it: another run may just be making it ours.
 bool MayBeUsed(sqlite3* database, std::string& fault) {
+  Run(database, "BEGIN");
   const std::int64_t id = Number(database, "PRAGMA application_id");
   const std::int64_t tables = Number(database, "SELECT count(*) FROM sqlite_schema");
   if (id < 0 || tables < 0) {
     fault = sqlite3_errmsg(database);
     return false;
   }
+  Run(database, "COMMIT");
   if (id == kApplicationId || (id == 0 && tables == 0)) return true;
   fault = "it is a database of something else";
   return false;

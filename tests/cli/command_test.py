@@ -41,6 +41,14 @@ def run(*arguments, stdin=b"", **options):
                           stderr=subprocess.PIPE, timeout=120, **options)
 
 
+def open_terminal(test):
+    """Both ends of a terminal; a bare container has none to give, and skips the test."""
+    try:
+        return pty.openpty()
+    except OSError as error:
+        test.skipTest(str(error))
+
+
 def run_in_terminal(typed, *arguments):
     """What the command writes, and what the terminal it was started from shows."""
     master, slave = pty.openpty()
@@ -254,11 +262,8 @@ class CommandTest(unittest.TestCase):
         self.check(run(*CANONS, "ask", start_new_session=True), 2, "--canons ask needs a terminal")
 
     def test_canons_and_fugues_in_a_terminal(self):
-        try:
-            for end in pty.openpty():
-                os.close(end)
-        except OSError as error:  # a bare container has no terminals to give
-            self.skipTest(str(error))
+        for end in open_terminal(self):
+            os.close(end)
         for typed, expected in ((b"\n", ["Canons", "Fugues"]), (b"3\nCanons\n2\n", ["Fugues"]),
                                 (b"2, 1\n", ["Canons", "Fugues"]), (b"none\n", []), (b"0\n", []),
                                 (b"\x04", [])):
@@ -394,7 +399,7 @@ class CommandTest(unittest.TestCase):
 
     def test_progress_is_for_terminals(self):
         for options, shown in (([], True), (["--quiet"], False)):
-            master, slave = pty.openpty()
+            master, slave = open_terminal(self)
             done = subprocess.run(call("convert", *options, SAMPLE), stdout=subprocess.PIPE,
                                   stderr=slave, timeout=120)
             self.assertEqual(done.returncode, 0)
