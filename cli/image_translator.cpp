@@ -307,13 +307,7 @@ bool ImageTranslator::Assemble(std::string_view image, std::string& translated,
   const std::size_t base = translated.size();
   translated += data_;
   translated += kEndOfRecord;
-  if (translated.size() > kLongestRecord) {
-    fault = "The record would be longer than " + std::to_string(kLongestRecord) + " octets";
-    return false;
-  }
-  WriteDigits(translated.size(), 5, translated.data());
-  WriteDigits(base, 5, translated.data() + 12);
-  return true;
+  return CompleteLeader(base, translated, fault);
 }
 
 }  // namespace cantorel::cli

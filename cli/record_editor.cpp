@@ -68,6 +68,16 @@ void AppendNewEntry(std::string_view tag, std::size_t length, std::size_t start,
 
 }  // namespace
 
+bool CompleteLeader(std::size_t base, std::string& image, std::string& fault) {
+  if (image.size() > kLongestRecord) {
+    fault = "The record would be longer than " + std::to_string(kLongestRecord) + " octets";
+    return false;
+  }
+  WriteDigits(image.size(), 5, image.data());
+  WriteDigits(base, 5, image.data() + 12);
+  return true;
+}
+
 bool RecordEditor::Apply(std::string_view image, const std::vector<FieldAnswer>& fields,
                          std::string& edited, std::string& fault) {
   layout_.Read(image, record_.RemoveDuplicative035Fields());
@@ -87,13 +97,7 @@ bool RecordEditor::Apply(std::string_view image, const std::vector<FieldAnswer>&
   const std::size_t base = edited.size();
   AppendData(edited);
   edited += kEndOfRecord;
-  if (edited.size() > kLongestRecord) {
-    fault = "The record would be longer than " + std::to_string(kLongestRecord) + " octets";
-    return false;
-  }
-  WriteDigits(edited.size(), 5, edited.data());
-  WriteDigits(base, 5, edited.data() + 12);
-  return true;
+  return CompleteLeader(base, edited, fault);
 }
 
 std::vector<RecordEditor::Change> RecordEditor::Changes() const {

@@ -26,6 +26,10 @@ namespace cantorel::cli {
 inline constexpr std::size_t kLongestField = 9999;  // with indicators and end of field
 inline constexpr std::size_t kLongestRecord = 99999;
 
+// Writes length and base address into the leader of an image that is otherwise
+// complete.  False, with the reason, when it is longer than ISO 2709 has room for.
+bool CompleteLeader(std::size_t base, std::string& image, std::string& fault);
+
 class RecordEditor {
  public:
   // `record` tells in which order fields stand and how it numbers those of an

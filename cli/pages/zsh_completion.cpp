@@ -7,7 +7,7 @@
 namespace cantorel::cli {
 namespace {
 
-// A text inside single quotes in a specification of _arguments or _describe,
+// A text inside single quotes, as _arguments and _describe take it,
 // where colons and brackets part the pieces.
 std::string Quoted(std::string_view text) {
   std::string quoted;

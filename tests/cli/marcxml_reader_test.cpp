@@ -7,24 +7,10 @@
 #include <string_view>
 
 #include "cli/record_reader.h"
+#include "slow_source.h"
 
 namespace cantorel::cli {
 namespace {
-
-class SlowSource : public OctetSource {
- public:
-  SlowSource(std::string_view text, std::size_t step) : rest_(text), step_(step) {}
-
-  std::size_t Read(char* to, std::size_t size) override {
-    const std::size_t count = rest_.substr(0, std::min(size, step_)).copy(to, size);
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
-  std::size_t step_;
-};
 
 // A line a piece: offset, then the fault, or the data of the image with "^" for
 // the ends of fields and "$" for delimiters.

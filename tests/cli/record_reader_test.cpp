@@ -12,25 +12,10 @@
 #include <vector>
 
 #include "cli/input_buffer.h"
+#include "slow_source.h"
 
 namespace cantorel::cli {
 namespace {
-
-// Hands out a text a few octets at a time.
-class SlowSource : public OctetSource {
- public:
-  SlowSource(std::string_view text, std::size_t step) : rest_(text), step_(step) {}
-
-  std::size_t Read(char* to, std::size_t size) override {
-    const std::size_t count = rest_.substr(0, std::min(size, step_)).copy(to, size);
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
-  std::size_t step_;
-};
 
 // A sound record with a 001 and a 245 of `title`.
 std::string Record(const std::string& title) {
